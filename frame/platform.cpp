@@ -1,0 +1,21 @@
+// frame/platform.cpp — console check and process end. The Windows build adds the
+// output window here; elsewhere every process counts as having a console.
+#include <cstdio>
+#include <cstdlib>
+
+#include "platform.hpp"
+
+extern "C" void zor_fortran_flush_all();   // frame/record_writer.f90
+
+namespace zor::platform {
+
+bool console_or_window(std::string_view) noexcept { return true; }
+
+void end_process(int status) noexcept
+{
+    std::fflush(nullptr);
+    zor_fortran_flush_all();
+    std::_Exit(status);
+}
+
+}  // namespace zor::platform

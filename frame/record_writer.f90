@@ -1,0 +1,81 @@
+! frame/record_writer.f90 — the record writer on the Fortran runtime, so that a unit
+! number means what it means to a Fortran program: 6 standard output, 0 standard error,
+! any other unit whatever the program (or X04ACF) connected to it.
+
+! Writes rec(1:n) as one record with the edit (A). ierr: 0, or 1 when the write failed.
+subroutine zor_unit_write(unit, rec, n, ierr) bind(c, name='zor_unit_write')
+  use, intrinsic :: iso_c_binding, only: c_int32_t, c_char
+  implicit none
+  integer(c_int32_t), value :: unit, n
+  character(kind=c_char), intent(in) :: rec(*)
+  integer(c_int32_t), intent(out) :: ierr
+  character(len=n) :: line
+  integer :: i, ios
+  do i = 1, n
+    line(i:i) = rec(i)
+  end do
+  write (unit, '(A)', iostat=ios) line
+  ierr = 0
+  if (ios /= 0) ierr = 1
+  flush (unit, iostat=ios)
+end subroutine zor_unit_write
+
+! opened = 1 when the unit is connected to a file, else 0.
+subroutine zor_unit_opened(unit, opened) bind(c, name='zor_unit_opened')
+  use, intrinsic :: iso_c_binding, only: c_int32_t
+  implicit none
+  integer(c_int32_t), value :: unit
+  integer(c_int32_t), intent(out) :: opened
+  logical :: op
+  integer :: ios
+  op = .false.
+  inquire (unit=unit, opened=op, iostat=ios)
+  opened = 0
+  if (ios == 0 .and. op) opened = 1
+end subroutine zor_unit_opened
+
+! Connects a unit to a file: mode 0 read (the file must exist), 1 write (replacing the
+! file), 2 append (creating it when missing). ierr: 0, or 1 when the open failed.
+subroutine zor_unit_open(unit, name, n, mode, ierr) bind(c, name='zor_unit_open')
+  use, intrinsic :: iso_c_binding, only: c_int32_t, c_char
+  implicit none
+  integer(c_int32_t), value :: unit, n, mode
+  character(kind=c_char), intent(in) :: name(*)
+  integer(c_int32_t), intent(out) :: ierr
+  character(len=n) :: file
+  integer :: i, ios
+  do i = 1, n
+    file(i:i) = name(i)
+  end do
+  select case (mode)
+  case (0)
+    open (unit=unit, file=file, status='old', action='read', iostat=ios)
+  case (1)
+    open (unit=unit, file=file, status='replace', action='write', iostat=ios)
+  case default
+    open (unit=unit, file=file, status='unknown', action='write', position='append', &
+          iostat=ios)
+  end select
+  ierr = 0
+  if (ios /= 0) ierr = 1
+end subroutine zor_unit_open
+
+! Disconnects a unit. ierr: 0, or 1 when the close failed.
+subroutine zor_unit_close(unit, ierr) bind(c, name='zor_unit_close')
+  use, intrinsic :: iso_c_binding, only: c_int32_t
+  implicit none
+  integer(c_int32_t), value :: unit
+  integer(c_int32_t), intent(out) :: ierr
+  integer :: ios
+  close (unit, iostat=ios)
+  ierr = 0
+  if (ios /= 0) ierr = 1
+end subroutine zor_unit_close
+
+! Flushes the standard units before the process ends.
+subroutine zor_fortran_flush_all() bind(c, name='zor_fortran_flush_all')
+  implicit none
+  integer :: ios
+  flush (6, iostat=ios)
+  flush (0, iostat=ios)
+end subroutine zor_fortran_flush_all
