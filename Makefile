@@ -23,12 +23,9 @@ lib: deps $(BUILD)/CMakeCache.txt
 examples: lib
 	ctest --test-dir $(BUILD) -L examples --output-on-failure -j $(JOBS)
 
-# The whole suite, then again under AddressSanitizer + UndefinedBehaviorSanitizer, the
-# concurrency tests under ThreadSanitizer, and the Windows build under Wine when its
-# packages can be had.
+# The whole suite, then again under AddressSanitizer + UndefinedBehaviorSanitizer, and
+# the concurrency tests under ThreadSanitizer.
 check: test check-asan check-tsan
-	@if sh tools/install-deps.sh windows; then $(MAKE) windows-check; \
-	 else echo "Skipping the Windows build: its packages are not installed."; fi
 
 test: lib
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
