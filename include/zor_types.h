@@ -63,6 +63,10 @@ typedef struct Zor_Fail {
     Zor_Integer errnum;   /* the kernel's error number (the F interface's IFAIL) */
 } Zor_Fail;
 
+/* A user function of any signature, as a kernel entry receives it: only the routine's
+   callback adapter, which knows the real signature, calls it. */
+typedef void (*Zor_UserFn)(void);
+
 /* The c interface's communication record: carries the caller's data, untouched,
    to every user function of a c routine. */
 typedef struct Zor_Comm {
