@@ -72,10 +72,11 @@ subroutine zor_unit_close(unit, ierr) bind(c, name='zor_unit_close')
   if (ios /= 0) ierr = 1
 end subroutine zor_unit_close
 
-! Flushes the standard units before the process ends.
+! Flushes every connected unit before the process ends: the standard units and the
+! program's own files, whose records would otherwise be lost with the runtime's buffers.
+! The FLUSH subroutine without a unit (a GNU extension) flushes them all.
 subroutine zor_fortran_flush_all() bind(c, name='zor_fortran_flush_all')
   implicit none
-  integer :: ios
-  flush (6, iostat=ios)
-  flush (0, iostat=ios)
+  intrinsic :: flush
+  call flush()
 end subroutine zor_fortran_flush_all
