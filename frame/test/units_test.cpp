@@ -321,3 +321,27 @@ TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
 }
 
 }  // namespace
+
+namespace {
+
+TEST(X04BAF, VeryLongRecordIsWrittenWhole)
+{
+    // Longer than any stack: the writer must not copy a record onto it.
+    const std::string path = temp_path("zor_long_record.txt");
+    ASSERT_EQ(x04acf(43, path, 1), 0);
+    const std::string rec = std::string(16 << 20, 'L') + "end   ";
+    x04baf(43, rec);
+    EXPECT_EQ(x04adf(43), 0);
+    const std::string got = read_file(path);
+    EXPECT_EQ(got.size(), (16u << 20) + 4);
+    EXPECT_EQ(got.substr(got.size() - 5), "Lend\n");
+    std::remove(path.c_str());
+}
+
+TEST(X04ACF, OverlongFileNameIsRefused)
+{
+    const std::string name(16 << 20, 'n');   // no stack holds it
+    EXPECT_EQ(x04acf(44, name, 1), 3);
+}
+
+}  // namespace
