@@ -31,6 +31,7 @@ bool read_integer(std::string_view s, Zor_Integer& out)
         negative = s.front() == '-';
         s.remove_prefix(1);
     }
+    while (s.size() > 1 && s.front() == '0') s.remove_prefix(1);   // "0001001" is 1001
     if (s.empty() || s.size() > 10) return false;
     long long v = 0;
     for (char c : s) {
@@ -77,9 +78,10 @@ extern "C" void P01ABTN(const char* msgbuf, Zor_Integer* msgcode, char fields[12
     std::size_t start = 1;
     while (count < nfields && start < buf.size()) {
         const std::size_t end = buf.find(zor::field_sep, start);
-        std::string_view field = buf.substr(start, end - start);
+        // The run goes into its 80-character slot, then is left-justified there.
+        std::string_view field = buf.substr(start, std::min(end - start, rec_len));
         while (!field.empty() && field.front() == ' ') field.remove_prefix(1);
-        std::memcpy(fields[count], field.data(), std::min(field.size(), rec_len));
+        std::memcpy(fields[count], field.data(), field.size());
         ++count;
         start = end + 1;
     }
