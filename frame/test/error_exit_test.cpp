@@ -380,6 +380,22 @@ TEST(P01ABTN, OverlongFieldsAreCutAt80)
     EXPECT_EQ(s.fields[3], std::string(80, 'z'));
 }
 
+TEST(P01ABTN, FieldIsCutToItsSlotBeforeItIsLeftJustified)
+{
+    const auto buf = raw_buffer(fields({"1", "1001", "1", "  " + std::string(78, 'a') + "bcd"}));
+    const Split s = split(buf.data());
+    EXPECT_EQ(s.status, 0);
+    EXPECT_EQ(s.fields[3], std::string(78, 'a'));
+}
+
+TEST(P01ABTN, IntegersWithLeadingZerosAreRead)
+{
+    const auto buf = raw_buffer(fields({"000000000001", "0000000001001", "-00", " 0 "}));
+    const Split s = split(buf.data());
+    EXPECT_EQ(s.code, 1001);
+    EXPECT_EQ(s.status, -1001) << "count 0 read, one value present";
+}
+
 TEST(P01ABTN, AFullBufferWithoutBlanksIsReadToItsEnd)
 {
     // 200 significant characters, the last the separator: the trimmed length is 200.
