@@ -7,6 +7,7 @@
 
 #include "frame.hpp"
 #include "platform.hpp"
+#include "x04_messages.hpp"
 #include "zor_x04.h"
 
 extern "C" {   // frame/record_writer.f90
@@ -135,23 +136,7 @@ extern "C" ZOR_API void X04BAF(const Zor_Integer* nout, const char* rec, std::si
 
 // ----------------------------------------------------------------------------------
 // X04ACF, X04ADF: files on units, for callers that have no Fortran OPEN of their own.
-
-namespace zor::frame {
-
-inline constexpr FRecord x04acf_records[] = {
-    {1, 1001, {" ** On entry, nout = %1.", " ** Constraint: nout >= 0."}},
-    {2, 1002, {" ** On entry, mode = %1.", " ** Constraint: mode = 0, 1 or 2."}},
-    {3, 1003, {" ** Cannot open file %1 for reading."}},
-    {3, 1004, {" ** Cannot open file %1 for writing."}},
-    {3, 1005, {" ** Cannot open file %1 for appending."}},
-};
-
-inline constexpr FRecord x04adf_records[] = {
-    {1, 1001, {" ** On entry, nout = %1.", " ** Constraint: nout >= 0."}},
-    {2, 1002, {" ** Cannot close unit %1."}},
-};
-
-}  // namespace zor::frame
+// Their records: frame/x04_messages.hpp.
 
 extern "C" ZOR_API void X04ACFT(Zor_Context*, const Zor_Integer* nout, const char* file,
                                 const Zor_Integer* mode, char msgbuf[200], Zor_Integer* ierr,
