@@ -90,6 +90,15 @@ subroutine zor_unit_close(unit, ierr) bind(c, name='zor_unit_close')
   if (ios /= 0) ierr = 1
 end subroutine zor_unit_close
 
+! Flushes one unit's buffer to its file.
+subroutine zor_unit_flush(unit) bind(c, name='zor_unit_flush')
+  use, intrinsic :: iso_c_binding, only: c_int32_t
+  implicit none
+  integer(c_int32_t), value :: unit
+  integer :: ios
+  flush (unit, iostat=ios)
+end subroutine zor_unit_flush
+
 ! Flushes every connected unit before the process ends: the standard units and the
 ! program's own files, whose records would otherwise be lost with the runtime's buffers.
 ! The FLUSH subroutine without a unit (a GNU extension) flushes them all.

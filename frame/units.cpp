@@ -16,6 +16,7 @@ void zor_unit_opened(Zor_Integer unit, Zor_Integer* opened);
 void zor_unit_open(Zor_Integer unit, const char* name, Zor_Integer n, Zor_Integer mode,
                    Zor_Integer* ierr);
 void zor_unit_close(Zor_Integer unit, Zor_Integer* ierr);
+void zor_unit_flush(Zor_Integer unit);
 }
 
 namespace zor {
@@ -53,15 +54,20 @@ int write_record(Zor_Integer unit, std::string_view record) noexcept
     const Zor_Integer w = n > 0 ? n : 0;
     Zor_Integer opened = 0;
     if (unit != 0 && unit != 6) zor_unit_opened(unit, &opened);
-    // C stdio and the Fortran runtime buffer separately: flush the caller's C output
-    // first so that the record lands after it.
     Zor_Integer status = 0;
     if (opened) {
         zor_unit_write(unit, text, w, &status);
         return status;
     }
-    if (unit == 6) std::fflush(stdout);
-    if (unit == 0) std::fflush(stderr);
+    // C stdio and the Fortran runtime buffer separately, and the two standard streams
+    // often share one file (2>&1): flush what the caller wrote to either stream, through
+    // C or through the other Fortran unit, so that the record lands after it. The record
+    // itself is flushed by the writer.
+    if (unit == 0 || unit == 6) {
+        std::fflush(stdout);
+        std::fflush(stderr);
+        zor_unit_flush(unit == 0 ? 6 : 0);
+    }
     if (platform::console_or_window(record.substr(0, static_cast<std::size_t>(n))))
         zor_unit_write(unit, text, w, &status);
     return 0;
