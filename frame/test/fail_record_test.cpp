@@ -3,6 +3,11 @@
 // the c exit's mapping of a kernel's outcome onto a message table.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -244,6 +249,28 @@ TEST(CReportDeathTest, NoRecordWarningAlsoEndsTheProcess)
                 testing::ExitedWithCode(1),
                 "^Warning from ZOR routine x00aac:\nNW_INT:\n  Note\\.\n"
                 "\\.\\.\\.ZOR Function Terminated\n$");
+}
+
+// Standard output and standard error in one file: the caller's buffered line first.
+void printf_then_fail(const std::string& path)
+{
+    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    dup2(fd, 1);
+    dup2(fd, 2);
+    std::printf("the caller's line\n");
+    zor::c_report("NE_INT:\n  n = 0.", NE_INT, "x00aac", nullptr);
+}
+
+TEST(CReportDeathTest, MessageFollowsTheCallersOwnOutput)
+{
+    const std::string path = testing::TempDir() + "zor_c_report_order.txt";
+    EXPECT_EXIT(printf_then_fail(path), testing::ExitedWithCode(1), "");
+    std::ifstream in(path);
+    std::stringstream got;
+    got << in.rdbuf();
+    EXPECT_EQ(got.str(), "the caller's line\nError detected by ZOR routine x00aac:\nNE_INT:\n"
+                         "  n = 0.\n...ZOR Function Terminated\n");
+    std::remove(path.c_str());
 }
 
 TEST(CExitDeathTest, NoRecordKernelFailureEndsWithStatusOne)
