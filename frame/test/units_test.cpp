@@ -298,8 +298,8 @@ void traced_calls()
     X04AAF(&get, &nerr);
     const Zor_Integer unit = -1;
     X04BAF(&unit, "hello  ", 7);
-    (void)X02AJF();
-    (void)X02BKF();
+    for (auto f : {X02AHF, X02AJF, X02AKF, X02ALF, X02AMF, X02ANF}) (void)f();
+    for (auto f : {X02BBF, X02BEF, X02BHF, X02BJF, X02BKF, X02BLF}) (void)f();
     std::exit(0);
 }
 
@@ -312,8 +312,19 @@ TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
                 " x04aafv ex_data: iflag = 0, nerr = 6\n"
                 " x04bafv:print_rec en_data: nout = -1, rec = hello  , ierr = 0\n"
                 " x04bafv:print_rec ex_data: nout = -1, rec = hello  , ierr = 0\n"
+                // The short names and the decimal values of the documented table.
+                " x02ahfv ex_data: maxsc = 1\\.42724769270596e\\+45\n"
                 " x02ajfv ex_data: eps = 1\\.1102230246251565e-16\n"
-                " x02bkfv ex_data: minexp = -1021\n$");
+                " x02akfv ex_data: tiny_zor = 2\\.2250738585072014e-308\n"
+                " x02alfv ex_data: huge_zor = 1\\.7976931348623157e\\+308\n"
+                " x02amfv ex_data: saferange = 2\\.225073858507202e-308\n"
+                " x02anfv ex_data: zrange = 2\\.225073858507202e-308\n"
+                " x02bbfv ex_data: hugeint = 2147483647\n"
+                " x02befv ex_data: iprec = 15\n"
+                " x02bhfv ex_data: irad = 2\n"
+                " x02bjfv ex_data: idigs = 53\n"
+                " x02bkfv ex_data: minexp = -1021\n"
+                " x02blfv ex_data: maxexp = 1024\n$");
     setenv("ZOR_TRACE", "0", 1);
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0), "^$");
     unsetenv("ZOR_TRACE");
