@@ -356,3 +356,33 @@ TEST(X04ACF, OverlongFileNameIsRefused)
 }
 
 }  // namespace
+
+namespace {
+
+TEST(P01ZZWN, OneTrimmedLineOnTheErrorUnit)
+{
+    UnitGuard guard;
+    zor::test::set_advisory_unit(-1);   // the advisory unit plays no part
+    const char text[] = " ** A line of library code.          ";
+    EXPECT_EQ(stdout_lines([&] { P01ZZWN(text, sizeof text - 1); }),
+              (Lines{" ** A line of library code."}));
+    zor::test::set_error_unit(-1);
+    EXPECT_TRUE(stdout_lines([&] { P01ZZWN(text, sizeof text - 1); }).empty());
+}
+
+TEST(X04BAZN, StatusZeroForAGoodWriteToAFile)
+{
+    const std::string path = temp_path("zor_x04bazn_status.txt");
+    ASSERT_EQ(x04acf(45, path, 1), 0);
+    Zor_Context ctx;
+    Y90HAAN(&ctx);
+    Zor_Integer status = -1;
+    const Zor_Integer unit = 45;
+    X04BAZN(&ctx, &unit, "ok  ", &status, 4);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(x04adf(45), 0);
+    EXPECT_EQ(read_file(path), "ok\n");
+    std::remove(path.c_str());
+}
+
+}  // namespace
