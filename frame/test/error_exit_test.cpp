@@ -90,6 +90,22 @@ TEST(P01ABZU, ErrorZeroPrintsNothingWhateverIfail)
     }
 }
 
+// A successful call parses nothing: the exits never look at the buffer on success.
+TEST(FExit, SuccessNeverReadsTheBuffer)
+{
+    Zor_Integer ifail = -1;
+    zor::f_exit(&ifail, 0, nullptr, "x00aaf", x00aaf_records);
+    EXPECT_EQ(ifail, 0);
+    Zor_Fail fail{};
+    zor::c_exit(&fail, 0, nullptr, "x00aac", {});
+    EXPECT_EQ(fail.code, 0);
+    zor::c_exit(&fail, -999, nullptr, "x00aac", {});
+    EXPECT_EQ(fail.code, NE_ALLOC_FAIL);
+    ifail = 1;
+    zor::f_exit(&ifail, -999, nullptr, "x00aaf", x00aaf_records);
+    EXPECT_EQ(ifail, -999);
+}
+
 // The older digit convention: a = tens digit, b = units digit of |IFAIL|.
 TEST(P01ABYU, DigitConventionSoftCases)
 {
