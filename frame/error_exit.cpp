@@ -31,6 +31,7 @@ bool read_integer(std::string_view s, Zor_Integer& out)
         negative = s.front() == '-';
         s.remove_prefix(1);
     }
+    while (s.size() > 1 && s.front() == '0') s.remove_prefix(1);   // "0001001" is 1001
     if (s.empty() || s.size() > 10) return false;
     long long v = 0;
     for (char c : s) {
@@ -52,8 +53,7 @@ void set_record(char* rec, std::string_view text)
 
 void write_line(std::string_view text)
 {
-    const Zor_Integer unit = zor::error_unit();
-    zor::write_record(unit, text);
+    zor::write_record(zor::error_unit(), text);
 }
 
 }  // namespace
@@ -77,9 +77,10 @@ extern "C" void P01ABTN(const char* msgbuf, Zor_Integer* msgcode, char fields[12
     std::size_t start = 1;
     while (count < nfields && start < buf.size()) {
         const std::size_t end = buf.find(zor::field_sep, start);
-        std::string_view field = buf.substr(start, end - start);
+        // The run goes into its 80-character slot, then is left-justified there.
+        std::string_view field = buf.substr(start, std::min(end - start, rec_len));
         while (!field.empty() && field.front() == ' ') field.remove_prefix(1);
-        std::memcpy(fields[count], field.data(), std::min(field.size(), rec_len));
+        std::memcpy(fields[count], field.data(), field.size());
         ++count;
         start = end + 1;
     }
@@ -101,21 +102,25 @@ extern "C" void P01ABXU(bool quiet, bool hard, const Zor_Integer* error, const c
                         const Zor_Integer* nrec, const char* records, std::size_t name_len,
                         std::size_t rec_len_in) noexcept
 {
+    // The error unit is looked up once, so that one message never straddles two units
+    // when another thread changes the unit meanwhile.
+    const Zor_Integer unit = zor::error_unit();
     if (!quiet) {
         for (Zor_Integer i = 0; i < *nrec; ++i)
-            write_line(trim_right(records + static_cast<std::size_t>(i) * rec_len_in, rec_len_in));
+            zor::write_record(unit, trim_right(records + static_cast<std::size_t>(i) * rec_len_in,
+                                               rec_len_in));
         char line[73];
         const std::string_view name = trim_right(routine, name_len);
         std::snprintf(line, sizeof line, " ** ABNORMAL EXIT from ZOR Library routine %.*s: IFAIL =%6d",
                       static_cast<int>(std::min<std::size_t>(name.size(), 6)), name.data(),
                       static_cast<int>(*error));
-        write_line(trim_right(line, std::strlen(line)));
+        zor::write_record(unit, trim_right(line, std::strlen(line)));
     }
     if (hard) {
-        write_line(" ** ZOR hard failure - execution terminated");
+        zor::write_record(unit, " ** ZOR hard failure - execution terminated");
         zor::platform::end_process(zor::hard_stop_status);
     }
-    if (!quiet) write_line(" ** ZOR soft failure - control returned");
+    if (!quiet) zor::write_record(unit, " ** ZOR soft failure - control returned");
 }
 
 extern "C" void P01ABZU(Zor_Integer* ifail, const Zor_Integer* error, const char* routine,

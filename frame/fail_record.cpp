@@ -9,6 +9,8 @@
 #include "frame.hpp"
 #include "platform.hpp"
 
+extern "C" void zor_unit_flush(Zor_Integer unit);   // frame/record_writer.f90
+
 namespace zor {
 
 namespace {
@@ -88,6 +90,9 @@ void c_report(const char* message, int code, const char* routine, Zor_Fail* fail
                 break;
             }
         const bool error = at < len && message[at] == 'E';
+        // The caller's own output first, when both streams go to one file (2>&1).
+        std::fflush(stdout);
+        zor_unit_flush(6);
         std::fprintf(stderr, error ? "Error detected by ZOR routine %s:\n%s\n"
                                    : "Warning from ZOR routine %s:\n%s\n",
                      routine, message);

@@ -7,6 +7,7 @@
 
 #include "frame.hpp"
 #include "platform.hpp"
+#include "x04_messages.hpp"
 #include "zor_x04.h"
 
 extern "C" {   // frame/record_writer.f90
@@ -15,6 +16,7 @@ void zor_unit_opened(Zor_Integer unit, Zor_Integer* opened);
 void zor_unit_open(Zor_Integer unit, const char* name, Zor_Integer n, Zor_Integer mode,
                    Zor_Integer* ierr);
 void zor_unit_close(Zor_Integer unit, Zor_Integer* ierr);
+void zor_unit_flush(Zor_Integer unit);
 }
 
 namespace zor {
@@ -52,15 +54,20 @@ int write_record(Zor_Integer unit, std::string_view record) noexcept
     const Zor_Integer w = n > 0 ? n : 0;
     Zor_Integer opened = 0;
     if (unit != 0 && unit != 6) zor_unit_opened(unit, &opened);
-    // C stdio and the Fortran runtime buffer separately: flush the caller's C output
-    // first so that the record lands after it.
     Zor_Integer status = 0;
     if (opened) {
         zor_unit_write(unit, text, w, &status);
         return status;
     }
-    if (unit == 6) std::fflush(stdout);
-    if (unit == 0) std::fflush(stderr);
+    // C stdio and the Fortran runtime buffer separately, and the two standard streams
+    // often share one file (2>&1): flush what the caller wrote to either stream, through
+    // C or through the other Fortran unit, so that the record lands after it. The record
+    // itself is flushed by the writer.
+    if (unit == 0 || unit == 6) {
+        std::fflush(stdout);
+        std::fflush(stderr);
+        zor_unit_flush(unit == 0 ? 6 : 0);
+    }
     if (platform::console_or_window(record.substr(0, static_cast<std::size_t>(n))))
         zor_unit_write(unit, text, w, &status);
     return 0;
@@ -135,23 +142,7 @@ extern "C" ZOR_API void X04BAF(const Zor_Integer* nout, const char* rec, std::si
 
 // ----------------------------------------------------------------------------------
 // X04ACF, X04ADF: files on units, for callers that have no Fortran OPEN of their own.
-
-namespace zor::frame {
-
-inline constexpr FRecord x04acf_records[] = {
-    {1, 1001, {" ** On entry, nout = %1.", " ** Constraint: nout >= 0."}},
-    {2, 1002, {" ** On entry, mode = %1.", " ** Constraint: mode = 0, 1 or 2."}},
-    {3, 1003, {" ** Cannot open file %1 for reading."}},
-    {3, 1004, {" ** Cannot open file %1 for writing."}},
-    {3, 1005, {" ** Cannot open file %1 for appending."}},
-};
-
-inline constexpr FRecord x04adf_records[] = {
-    {1, 1001, {" ** On entry, nout = %1.", " ** Constraint: nout >= 0."}},
-    {2, 1002, {" ** Cannot close unit %1."}},
-};
-
-}  // namespace zor::frame
+// Their records: frame/x04_messages.hpp.
 
 extern "C" ZOR_API void X04ACFT(Zor_Context*, const Zor_Integer* nout, const char* file,
                                 const Zor_Integer* mode, char msgbuf[200], Zor_Integer* ierr,

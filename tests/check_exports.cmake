@@ -1,0 +1,83 @@
+# tests/check_exports.cmake — the dynamic symbol table of the shared library equals the
+# ZOR_API declarations of the public headers: every declared name is exported, nothing
+# else is. The generated version script and module-definition file list the same names.
+#   cmake -DCC=<c compiler> -DNM=<nm> -DHEADER=include/zor.h -DLIB=libzor.so
+#         -DMAP=zor.map -DDEF=zor.def -P check_exports.cmake
+
+# Declared: preprocess the umbrella header with ZOR_API marked, take each marked name.
+execute_process(COMMAND ${CC} -E -P -DZOR_EXPORT_SCAN ${HEADER}
+                OUTPUT_VARIABLE text RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "preprocessing ${HEADER} failed")
+endif()
+string(REGEX REPLACE "[\r\n\t ]+" " " text "${text}")
+string(REGEX MATCHALL "zor_export_mark[^;{}(]*\\(" marked "${text}")
+set(declared "")
+foreach(d IN LISTS marked)
+  # The declarator's name is the last identifier before the first parenthesis.
+  string(REGEX REPLACE "^zor_export_mark ([^(]*[^A-Za-z0-9_(])?([A-Za-z_][A-Za-z0-9_]*) ?\\($" "\\2" n "${d}")
+  list(APPEND declared ${n})
+endforeach()
+list(REMOVE_DUPLICATES declared)
+list(SORT declared)
+list(LENGTH declared ndeclared)
+if(ndeclared EQUAL 0)
+  message(FATAL_ERROR "no ZOR_API declaration found in ${HEADER}")
+endif()
+
+# Exported: every defined symbol of the dynamic symbol table.
+execute_process(COMMAND ${NM} -D --defined-only ${LIB} OUTPUT_VARIABLE nm_out RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "nm -D ${LIB} failed")
+endif()
+string(REGEX REPLACE "\r?\n" ";" nm_lines "${nm_out}")
+set(exported "")
+foreach(l IN LISTS nm_lines)
+  if(l MATCHES "^[0-9a-fA-F]* *[A-Za-z] ([^ @]+)")
+    list(APPEND exported ${CMAKE_MATCH_1})
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES exported)
+list(SORT exported)
+
+set(missing ${declared})
+list(REMOVE_ITEM missing ${exported})
+set(extra ${exported})
+list(REMOVE_ITEM extra ${declared})
+
+# The generated lists name the same symbols.
+file(STRINGS ${MAP} map_lines REGEX "^    [A-Za-z_][A-Za-z0-9_]*;$")
+file(STRINGS ${DEF} def_lines REGEX "^    [A-Za-z_][A-Za-z0-9_]*$")
+set(def_names "")
+foreach(l IN LISTS def_lines)
+  string(STRIP "${l}" l)
+  list(APPEND def_names ${l})
+endforeach()
+set(map_names "")
+foreach(l IN LISTS map_lines)
+  string(REGEX REPLACE "[ ;]" "" l "${l}")
+  list(APPEND map_names ${l})
+endforeach()
+list(SORT map_names)
+list(SORT def_names)
+
+set(failed FALSE)
+if(missing)
+  message(SEND_ERROR "declared with ZOR_API but not exported: ${missing}")
+  set(failed TRUE)
+endif()
+if(extra)
+  message(SEND_ERROR "exported but not declared with ZOR_API: ${extra}")
+  set(failed TRUE)
+endif()
+if(NOT map_names STREQUAL declared)
+  message(SEND_ERROR "the version script ${MAP} differs from the declarations")
+  set(failed TRUE)
+endif()
+if(NOT def_names STREQUAL declared)
+  message(SEND_ERROR "the module-definition file ${DEF} differs from the declarations")
+  set(failed TRUE)
+endif()
+if(NOT failed)
+  message(STATUS "${ndeclared} exported symbols, each declared with ZOR_API")
+endif()
