@@ -39,10 +39,9 @@ foreach(f include/zor.h include/zor_types.h include/zor.mod include/zor.f90
   endif()
 endforeach()
 
-# C through pkg-config. The prefix is the one the .pc file was configured with; a tree
-# installed elsewhere is found by redefining it, as pkg-config users do.
+# C through pkg-config; the .pc file finds its prefix from its own place.
 set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
-run("pkg-config" ${PKG_CONFIG} --define-variable=prefix=${prefix} --cflags --libs zor)
+run("pkg-config" ${PKG_CONFIG} --cflags --libs zor)
 string(STRIP "${run_out}" pc_flags)
 separate_arguments(pc_flags UNIX_COMMAND "${pc_flags}")
 run("building the C client" ${CC} -std=c11 -Wall -Wextra -Werror -pedantic ${SRC}/client.c
