@@ -287,17 +287,21 @@ namespace {
 constexpr double check_value = 0x1.c05a2fp+17;
 constexpr int last = c05az_state_len - 1;
 
-// FNV-1a (Fowler, Noll, Vo) over the bytes of C(1..len-1), cut to 52 bits so that the
-// checksum is an integer that a double holds exactly.
+// FNV-1a (Fowler, Noll, Vo) taken a 64-bit word at a time over C(1..len-1), then
+// mixed by the finalizer of MurmurHash3 so that every bit of every word reaches the
+// result, and cut to 52 bits so that the checksum is an integer a double holds exactly.
 double checksum(const double c[])
 {
     std::uint64_t h = 0xcbf29ce484222325ULL;
-    unsigned char bytes[sizeof(double) * last];
-    std::memcpy(bytes, c, sizeof bytes);
-    for (unsigned char byte : bytes) {
-        h ^= byte;
-        h *= 0x100000001b3ULL;
+    for (int i = 0; i < last; ++i) {
+        std::uint64_t w;
+        std::memcpy(&w, c + i, sizeof w);
+        h = (h ^ w) * 0x100000001b3ULL;
+        h ^= h >> 29;
     }
+    h ^= h >> 33;
+    h *= 0xff51afd7ed558ccdULL;
+    h ^= h >> 33;
     return static_cast<double>(h >> 12);
 }
 
