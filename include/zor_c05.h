@@ -11,10 +11,13 @@ extern "C" {
 /* ------------------------------------------------------------------------------
    Callback convention of the library (every chapter has the same shape).
 
-   A kernel entry (name ending in T) receives the user's function as a Zor_UserFn
-   together with an adapter that knows its real signature. The adapter's arguments
-   are: the user function, the inputs, the outputs, then IUSER, RUSER and the c
-   interface's communication record. The F adapter (C05AYF_FH) passes IUSER and RUSER
+   A kernel entry (name ending in T) takes the context record first, then the F
+   routine's arguments in their order with each user function preceded by its
+   adapter, then the c interface's communication record (null from the F interface),
+   the message buffer and the error number. It receives the user's function as a
+   Zor_UserFn; only the adapter, which knows the real signature, calls it. The
+   adapter's arguments are: the user function, the inputs, the outputs, then IUSER,
+   RUSER and the communication record. The F adapter (C05AYF_FH) passes IUSER and RUSER
    and ignores comm; the c adapter (c05ayc_fh) ignores IUSER and RUSER and passes comm.
 
    Zor_Comm (zor_types.h) is the c interface's communication record: the routines

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstring>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "c05ay_messages.hpp"
 #include "zeros_test_util.hpp"
@@ -330,6 +332,70 @@ TEST(c05ayc, SuccessWithoutFailRecordReturns)
     Zor_Comm comm{&data, nullptr, nullptr, 0};
     c05ayc(0, 2, 1e-10, 0, c_square_minus, &x, &comm, nullptr);
     EXPECT_NEAR(x, 1.4142135623730951, 1e-10);
+}
+
+}  // namespace
+
+namespace {
+
+// eta is never an argument error: each value has a defined meaning.
+TEST(C05AYF, EtaOfEveryKind)
+{
+    struct Case {
+        double eta;
+        bool stops_at_a;
+        const char* why;
+    };
+    const Case cases[] = {
+        {INFINITY, true, "an infinite eta accepts any finite f(a)"},
+        {NAN, false, "a NaN eta accepts only exact zeros"},
+        {-1.0, false, "a negative eta accepts only exact zeros"},
+        {0.0, false, "eta = 0 accepts only exact zeros"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.why);
+        const FCall got = call_c05ayf(0.5, 2.0, 1e-12, c.eta, 2.0);
+        EXPECT_EQ(got.ifail, 0);
+        if (c.stops_at_a) {
+            EXPECT_EQ(got.x, 0.5);
+            EXPECT_EQ(got.evaluations, 1);
+        } else {
+            EXPECT_LE(std::fabs(got.x - 1.4142135623730951), 2e-12);
+        }
+    }
+}
+
+// The largest bracket there is: no overflow in widths, midpoints or interpolants.
+double cube_minus(const double* x, Zor_Integer iuser[], double ruser[])
+{
+    ++iuser[0];
+    return std::cbrt(*x) - ruser[0];
+}
+
+TEST(C05AYF, WholeRangeOfDoubles)
+{
+    const double a = -0x1.fffffffffffffp1023, b = -a, eps = 1e-14, eta = 0.0;
+    double x = 0.0, ruser[1] = {1.25};
+    Zor_Integer iuser[1] = {0}, ifail = 1;
+    C05AYF(&a, &b, &eps, &eta, cube_minus, &x, iuser, ruser, &ifail);
+    EXPECT_EQ(ifail, 0);
+    EXPECT_LE(std::fabs(x - 1.953125), 1e-14 * 1.953125);   // 1.25^3
+    EXPECT_LE(iuser[0], 4 * (2 + 2100) + 3);
+}
+
+// Re-entrancy: searches in several threads at once give the answers of serial calls.
+TEST(c05ayc, ConcurrentCallsAreIndependent)
+{
+    constexpr int n = 8;
+    double serial[n], parallel[n];
+    for (int i = 0; i < n; ++i) serial[i] = call_c05ayc(0, 10, 1e-13, 0, 2.0 + i).x;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < n; ++i)
+        threads.emplace_back([&, i] {
+            for (int rep = 0; rep < 200; ++rep) parallel[i] = call_c05ayc(0, 10, 1e-13, 0, 2.0 + i).x;
+        });
+    for (std::thread& t : threads) t.join();
+    for (int i = 0; i < n; ++i) EXPECT_EQ(parallel[i], serial[i]);
 }
 
 }  // namespace
