@@ -1,9 +1,9 @@
 // zeros/c05az_step.cpp — the bracketing step of C05AYF and C05AZF (Alefeld, Potra and
 // Shi, ACM TOMS 21 (1995) 327-344, algorithm 4.2 of Math. Comp. 61 (1993) 733-744),
 // written as a resumable state machine: one trial point out, one value in.
+#include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <numeric>
 
 #include "c05az_step.hpp"
 #include "frame/machine.hpp"
@@ -38,8 +38,12 @@ double required_width(double u, double tolx, ErrorTest ir)
     case ErrorTest::absolute: return tolx;
     case ErrorTest::mixed: break;
     }
-    return tolx * std::fmax(1.0, std::fabs(u));
+    return tolx * std::max(1.0, std::fabs(u));
 }
+
+// Halfway between a and b, without overflow for any finite a, b; equal to a or b only
+// when they are adjacent doubles.
+double midpoint(double a, double b) { return 0.5 * a + 0.5 * b; }
 
 // The end with the smaller |f|; an end whose value is NaN is never the better one.
 bool a_is_better(const BracketState& s)
@@ -147,13 +151,12 @@ double cubic_or_quadratic(const BracketState& s, int k)
 // Places the trial point strictly inside (a, b), at least `push` of the requested width
 // (and a few units of rounding) from either end; the midpoint when the candidate is
 // undefined or the bracket is too narrow for that.
-double safeguard(const BracketState& s, double c, double tolx, ErrorTest ir)
+double safeguard(const BracketState& s, double c, double width)
 {
     const double a = s.a, b = s.b;
-    const double mid = std::midpoint(a, b);
-    const double u = a_is_better(s) ? a : b;
-    const double delta = std::fmax(push * required_width(u, tolx, ir),
-                                   4.0 * machine::eps * std::fmax(std::fabs(a), std::fabs(b)));
+    const double mid = midpoint(a, b);
+    const double delta =
+        std::max(push * width, 4.0 * machine::eps * std::max(std::fabs(a), std::fabs(b)));
     const double lo = a + delta, hi = b - delta;
     if (std::isnan(c) || !(lo < hi))
         c = mid;
@@ -178,19 +181,21 @@ StepStatus finish(BracketState& s, StepStatus reached)
     return reached;
 }
 
-// After the bracket has changed: the final status, or evaluate to go on.
-StepStatus test(BracketState& s, double tolx, ErrorTest ir)
+// After the bracket has changed: the final status, or evaluate to go on, with the
+// width that the error test requires at the better end in `width`.
+StepStatus test(BracketState& s, double tolx, ErrorTest ir, double& width)
 {
     const double u = a_is_better(s) ? s.a : s.b;
-    if (s.b - s.a <= required_width(u, tolx, ir)) return finish(s, StepStatus::converged);
-    const double mid = std::midpoint(s.a, s.b);
+    width = required_width(u, tolx, ir);
+    if (s.b - s.a <= width) return finish(s, StepStatus::converged);
+    const double mid = midpoint(s.a, s.b);
     if (!(s.a < mid && mid < s.b) || s.evaluations >= max_evaluations)
         return finish(s, StepStatus::too_small);
     return StepStatus::evaluate;
 }
 
 // Chooses the point for s.phase and stores it in s.c.
-void choose(BracketState& s, double tolx, ErrorTest ir)
+void choose(BracketState& s, double width)
 {
     double c = NAN;
     switch (s.phase) {
@@ -227,7 +232,7 @@ void choose(BracketState& s, double tolx, ErrorTest ir)
         s.fe = s.fd;
         break;
     }
-    s.c = safeguard(s, c, tolx, ir);
+    s.c = safeguard(s, c, width);
 }
 
 Phase next_phase(const BracketState& s)
@@ -265,10 +270,11 @@ StepStatus begin(BracketState& s, double x, double fx, double y, double fy, doub
     s.fd = s.fe = NAN;
     s.a0 = s.a;
     s.b0 = s.b;
-    s.fmax0 = std::fmax(std::fabs(fx), std::fabs(fy));
+    s.fmax0 = std::fmax(std::fabs(fx), std::fabs(fy));   // fmax: a NaN value is ignored
     s.phase = Phase::secant;
-    const StepStatus st = test(s, tolx, ir);
-    if (st == StepStatus::evaluate) choose(s, tolx, ir);
+    double width = 0;
+    const StepStatus st = test(s, tolx, ir, width);
+    if (st == StepStatus::evaluate) choose(s, width);
     return st;
 }
 
@@ -289,10 +295,11 @@ StepStatus advance(BracketState& s, double fc, double tolx, ErrorTest ir) noexce
         s.d = s.a, s.fd = s.fa;
         s.a = s.c, s.fa = fc;
     }
-    const StepStatus st = test(s, tolx, ir);
+    double width = 0;
+    const StepStatus st = test(s, tolx, ir, width);
     if (st != StepStatus::evaluate) return st;
     s.phase = next_phase(s);
-    choose(s, tolx, ir);
+    choose(s, width);
     return st;
 }
 
