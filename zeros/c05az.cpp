@@ -55,9 +55,10 @@ int step_result(Args& io, PackedState& p, StepStatus st, Message& msg)
 {
     BracketState& s = p.step;
     if (st == StepStatus::evaluate) {
-        const double better = std::isnan(s.fa) || (!std::isnan(s.fb) && std::fabs(s.fb) < std::fabs(s.fa))
-                                  ? s.b : s.a;
-        return ask(io, p, Stage::want_c, s.c, better);
+        // Y: the end of the current bracket with the smaller |f| (never a NaN value).
+        const bool b_better =
+            std::isnan(s.fa) || (!std::isnan(s.fb) && std::fabs(s.fb) < std::fabs(s.fa));
+        return ask(io, p, Stage::want_c, s.c, b_better ? s.b : s.a);
     }
     if (s.fsmall == 0.0) return done(io, s.u, s.u);
     done(io, s.u, s.u == s.a ? s.b : s.a);
