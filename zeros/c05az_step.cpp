@@ -2,6 +2,7 @@
 // Shi, ACM TOMS 21 (1995) 327-344, algorithm 4.2 of Math. Comp. 61 (1993) 733-744),
 // written as a resumable state machine: one trial point out, one value in.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -312,18 +313,24 @@ namespace {
 constexpr double check_value = 0x1.c05a2fp+17;
 constexpr int last = c05az_state_len - 1;
 
-// FNV-1a (Fowler, Noll, Vo) taken a 64-bit word at a time over C(1..len-1), then
-// mixed by the finalizer of MurmurHash3 so that every bit of every word reaches the
-// result, and cut to 52 bits so that the checksum is an integer a double holds exactly.
+// A sum of the 64-bit words of C(1..len-1), each scrambled by an xorshift and an odd
+// multiplier of its own (both invertible, so that a change of any one word always
+// changes the sum; changes of several words escape with probability about 2^-52), then
+// mixed by the finalizer of MurmurHash3 (Appleby) and cut to 52 bits, an integer that
+// a double holds exactly. The terms are independent, so the sum costs a few cycles a
+// word, twice per call of C05AZF.
+constexpr auto multipliers = [] {
+    std::array<std::uint64_t, last> m{};
+    for (int i = 0; i < last; ++i) m[i] = 0x9e3779b97f4a7c15ULL * static_cast<std::uint64_t>(2 * i + 1);
+    return m;
+}();
+
 double checksum(const double c[])
 {
-    std::uint64_t h = 0xcbf29ce484222325ULL;
-    for (int i = 0; i < last; ++i) {
-        std::uint64_t w;
-        std::memcpy(&w, c + i, sizeof w);
-        h = (h ^ w) * 0x100000001b3ULL;
-        h ^= h >> 29;
-    }
+    std::uint64_t w[last];
+    std::memcpy(w, c, sizeof w);
+    std::uint64_t h = 0;
+    for (int i = 0; i < last; ++i) h += (w[i] ^ (w[i] >> 29)) * multipliers[i];
     h ^= h >> 33;
     h *= 0xff51afd7ed558ccdULL;
     h ^= h >> 33;
@@ -348,14 +355,16 @@ bool unpack(const double c[], PackedState& p) noexcept
     if (!(c[0] == check_value) || !(c[last] == checksum(c))) return false;
     const double stage = c[1], phase = c[2], evaluations = c[3];
     if (!(stage == 2 || stage == 3 || stage == 4)) return false;
-    if (!(phase >= 1 && phase <= 6 && phase == std::floor(phase))) return false;
-    if (!(evaluations >= 0 && evaluations <= max_evaluations &&
-          evaluations == std::floor(evaluations)))
+    // Range first, so that the conversions below are defined; then integral values only.
+    if (!(phase >= 1 && phase <= 6 && evaluations >= 0 && evaluations <= max_evaluations))
         return false;
+    const int iphase = static_cast<int>(phase);
+    const std::int32_t ievaluations = static_cast<std::int32_t>(evaluations);
+    if (iphase != phase || ievaluations != evaluations) return false;
     p.stage = static_cast<Stage>(static_cast<int>(stage));
     BracketState& s = p.step;
-    s.phase = static_cast<Phase>(static_cast<int>(phase));
-    s.evaluations = static_cast<std::int32_t>(evaluations);
+    s.phase = static_cast<Phase>(iphase);
+    s.evaluations = ievaluations;
     s.a = c[4], s.fa = c[5], s.b = c[6], s.fb = c[7];
     s.d = c[8], s.fd = c[9], s.e = c[10], s.fe = c[11];
     s.a0 = c[12], s.b0 = c[13], s.c = c[14], s.fmax0 = c[15];
