@@ -41,12 +41,14 @@ int ask(Args& io, PackedState& p, Stage stage, double x, double y)
     return 0;
 }
 
-// Ends the search with X = x, Y = y.
+// Ends the search with X = x, Y = y. C(1) is cleared, so that a further call that
+// claims to continue the finished search is refused instead of resuming it.
 int done(Args& io, double x, double y)
 {
     io.x = x;
     io.y = y;
     io.ind = 0;
+    io.c[0] = 0.0;
     return 0;
 }
 

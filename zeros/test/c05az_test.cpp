@@ -208,6 +208,22 @@ TEST(C05AZF, AlteredStateIsDetected)
     }
 }
 
+TEST(C05AZF, FinishedSearchCannotBeContinued)
+{
+    double x = 0, y = 2, fx = 0, tolx = 1e-12, c[ZOR_C05AZ_CLEN];
+    Zor_Integer ir = 2, ind = 1, ifail = 1, last_ind = 1;
+    for (int calls = 0; calls < 1000 && ind != 0; ++calls) {
+        last_ind = ind;
+        C05AZF(&x, &y, &fx, &tolx, &ir, c, &ind, &ifail);
+        fx = x * x - 2.0;
+    }
+    ASSERT_EQ(ifail, 0);
+    ind = last_ind == 1 ? 4 : last_ind;   // as if the caller missed IND = 0
+    C05AZF(&x, &y, &fx, &tolx, &ir, c, &ind, &ifail);
+    EXPECT_EQ(ifail, 2);
+    EXPECT_EQ(ind, 0);
+}
+
 TEST(C05AZF, ExactZeroEndsWithYEqualToX)
 {
     const RcRun r = solve([](double x) { return x - 0.5; }, 0.0, 1.0, 1e-3, 2);
