@@ -219,6 +219,7 @@ TEST(C05AZF, FinishedSearchCannotBeContinued)
     }
     ASSERT_EQ(ifail, 0);
     ind = last_ind == 1 ? 4 : last_ind;   // as if the caller missed IND = 0
+    ifail = 1;
     C05AZF(&x, &y, &fx, &tolx, &ir, c, &ind, &ifail);
     EXPECT_EQ(ifail, 2);
     EXPECT_EQ(ind, 0);
