@@ -35,7 +35,11 @@ int find_zero(Zor_Context& ctx, double a, double b, double eps, double eta, F&& 
         if (comm != nullptr && comm->flag < 0) ctx.stop = 1;
         return ctx.stop != 0;
     };
-    auto stopped = [&] { return msg.fail(user_stop, 1007, static_cast<int>(comm->flag)); };
+    // The stop flag may also have been raised by a direct caller of the kernel entry,
+    // with no communication record: the value reported is then 0.
+    auto stopped = [&] {
+        return msg.fail(user_stop, 1007, comm != nullptr ? static_cast<int>(comm->flag) : 0);
+    };
 
     if (eval(a)) return stopped();
     const double fa = v;
