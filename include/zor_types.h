@@ -73,7 +73,8 @@ typedef struct Zor_Comm {
     void *p;              /* any data of the caller's */
     Zor_Integer *iuser;   /* an integer array of the caller's */
     double *ruser;        /* a real array of the caller's */
-    Zor_Integer flag;     /* set non-zero by a user function to ask the routine to stop */
+    Zor_Integer flag;     /* set negative by a user function to ask the routine to stop;
+                             values >= 0 are the caller's own (see zor_c05.h) */
 } Zor_Comm;
 
 #ifdef __cplusplus

@@ -1,0 +1,20 @@
+// zeros/c05azf.cpp — F interface of C05AZ. A return that asks for a function value
+// (IND /= 0) leaves IFAIL alone and prints nothing; only the final return goes through
+// the error exit.
+#include "c05az_messages.hpp"
+#include "frame/frame.hpp"
+#include "zor_c05.h"
+
+extern "C" ZOR_API void C05AZF(double* x, double* y, const double* fx, const double* tolx,
+                               const Zor_Integer* ir, double c[], Zor_Integer* ind,
+                               Zor_Integer* ifail) noexcept
+{
+    Zor_Context ctx;
+    Y90HAAN(&ctx);
+    char msgbuf[zor::msgbuf_len];
+    Zor_Integer ierr = 0;
+    C05AZFT(&ctx, x, y, fx, tolx, ir, c, ind, msgbuf, &ierr);
+    if (ierr == 0 && *ind != 0) return;
+    zor::f_exit(ifail, ierr, msgbuf, "c05azf", zor::zeros::c05azf_records);
+}
+ZOR_F_ALIAS(c05azf_, C05AZF);
