@@ -31,10 +31,11 @@ macro(zor_windows_gtest)
   endif()
 endmacro()
 
-# The DLL: zor.dll, import library libzor.dll.a, exports exactly those of the generated
+# The output window (frame/output_window_win32.cpp) and the DLL: zor.dll, import library libzor.dll.a, exports exactly those of the generated
 # zor.def (the same list as the Linux version script), and nothing imported but system
 # DLLs — checked after every link, so a runtime that slipped in fails the build.
 function(zor_windows_library)
+  target_sources(zor_objects PRIVATE ${PROJECT_SOURCE_DIR}/frame/output_window_win32.cpp)
   set_target_properties(zor PROPERTIES PREFIX "" IMPORT_PREFIX "lib" IMPORT_SUFFIX ".dll.a")
   target_link_options(zor PRIVATE ${PROJECT_BINARY_DIR}/zor.def -Wl,--exclude-all-symbols)
   set_property(TARGET zor APPEND PROPERTY LINK_DEPENDS ${PROJECT_BINARY_DIR}/zor.def)
