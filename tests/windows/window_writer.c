@@ -1,13 +1,14 @@
 /* tests/windows/window_writer.c — a program without a console that writes records
    through X04BAF, for the output window test (output_window_test.py), which drives it
-   step by step through files in DIR:
-     window_writer DIR            shows records, waits for DIR/goN, writes DIR/writtenN;
-                                  at the end DIR/writer_result holds "ok" or the faults.
+   step by step through files in the directory DIR:
+     window_writer DIR            writes the records of step N once DIR/goN exists (step 1
+                                  at once), then DIR/writtenN; at the end DIR/writer_result
+                                  holds "ok" or the faults found. While it waits it serves
+                                  DIR/request: "report NAME" writes the window's report
+                                  (window_report.h, menus included: they belong to this
+                                  process) to DIR/NAME; "menu TEXT" chooses that menu item.
      window_writer --no-display   writes records where no window can appear; must return. */
-#include <windows.h>
-#include <stdio.h>
-#include <string.h>
-
+#include "window_report.h"
 #include "zor.h"
 
 static char dir[MAX_PATH];
@@ -17,22 +18,67 @@ static void put(Zor_Integer unit, const char *rec)
     X04BAF(&unit, rec, strlen(rec));
 }
 
+static void path_of(char *path, size_t n, const char *name)
+{
+    snprintf(path, n, "%s\\%s", dir, name);
+}
+
 static void touch(const char *name)
 {
-    char path[MAX_PATH + 32];
-    snprintf(path, sizeof path, "%s\\%s", dir, name);
+    char path[MAX_PATH + 64];
+    path_of(path, sizeof path, name);
     FILE *f = fopen(path, "w");
     if (f) fclose(f);
 }
 
-/* Waits up to 120 s for the test to create DIR/name. */
+/* Sends the command of the menu item with this text ("\t" written as backslash t). */
+static void choose(HWND w, const char *text)
+{
+    wchar_t want[256];
+    MultiByteToWideChar(CP_UTF8, 0, text, -1, want, 256);
+    for (wchar_t *p = want; *p; ++p)
+        if (p[0] == L'\\' && p[1] == L't') {
+            p[0] = L'\t';
+            memmove(p + 1, p + 2, wcslen(p + 1) * sizeof *p);
+        }
+    const UINT id = walk(GetMenu(w), 0, NULL, want);
+    if (id != 0 && id != (UINT)-1) SendMessageW(w, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+}
+
+static void serve_request(void)
+{
+    char path[MAX_PATH + 64], line[512] = "";
+    path_of(path, sizeof path, "request");
+    FILE *f = fopen(path, "r");
+    if (!f) return;
+    if (!fgets(line, sizeof line, f)) line[0] = '\0';
+    fclose(f);
+    line[strcspn(line, "\r\n")] = '\0';
+    HWND w = FindWindowW(NULL, window_title);
+    if (strncmp(line, "report ", 7) == 0) {
+        char out_path[MAX_PATH + 64];
+        path_of(out_path, sizeof out_path, line + 7);
+        FILE *out = fopen(out_path, "wb");
+        if (out) {
+            const int status = w ? report_window(w, out) : (fprintf(out, "window not found\n"), 1);
+            fprintf(out, "status %d\n", status);
+            fclose(out);
+        }
+    } else if (strncmp(line, "menu ", 5) == 0 && w) {
+        choose(w, line + 5);
+    }
+    DeleteFileA(path);
+}
+
+/* Waits up to 120 s for the test to create DIR/name, serving its requests meanwhile. */
 static int wait_for(const char *name)
 {
-    char path[MAX_PATH + 32];
-    snprintf(path, sizeof path, "%s\\%s", dir, name);
-    for (int i = 0; i < 2400; ++i) {
+    char path[MAX_PATH + 64];
+    path_of(path, sizeof path, name);
+    for (int i = 0; i < 6000; ++i) {
         if (GetFileAttributesA(path) != INVALID_FILE_ATTRIBUTES) return 1;
-        Sleep(50);
+        serve_request();
+        Sleep(20);
     }
     return 0;
 }
@@ -54,14 +100,14 @@ int main(int argc, char **argv)
     snprintf(dir, sizeof dir, "%s", argv[1]);
     char faults[512] = "";
 
-    /* Step 1: a few records, as a program would write them. */
+    /* Step 1: a few records, as a program would write them, an error exit among them. */
     put(6, " ZOR output window test");
     put(6, " Record with trailing blanks          ");
     put(6, "   ");
     put(0, " A record for the error unit");
     {
         Zor_Integer nout = -1, mode = 1, ifail = -1;
-        X04ACF(&nout, "unused.txt", &mode, &ifail, 10);   /* an error exit, printed */
+        X04ACF(&nout, "unused.txt", &mode, &ifail, 10);
         if (ifail != 1) strcat(faults, " x04acf-ifail");
     }
     put(-1, " never shown: unit -1");
@@ -88,10 +134,10 @@ int main(int argc, char **argv)
     put(6, " After Exit: dropped.");
     const DWORD ms = GetTickCount() - start;
     if (ms > 1000) strcat(faults, " slow-after-exit");
-    if (FindWindowW(NULL, L"ZOR Library Output Window")) strcat(faults, " window-after-exit");
+    if (FindWindowW(NULL, window_title)) strcat(faults, " window-after-exit");
 
-    char path[MAX_PATH + 32];
-    snprintf(path, sizeof path, "%s\\writer_result", dir);
+    char path[MAX_PATH + 64];
+    path_of(path, sizeof path, "writer_result");
     FILE *f = fopen(path, "w");
     if (!f) return 4;
     fprintf(f, "%s\n", faults[0] ? faults + 1 : "ok");
