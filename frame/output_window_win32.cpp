@@ -218,7 +218,6 @@ void append(Ui& ui, std::string_view record)
         SendMessageW(ui.text, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
         delete_first_lines(ui.text, trim_lines);
     }
-    SendMessageW(ui.text, EM_SCROLLCARET, 0, 0);
 }
 
 // Shows the window, in front of the others but not kept there, without taking the focus
@@ -226,6 +225,10 @@ void append(Ui& ui, std::string_view record)
 // whose thread may be the one waiting for this record).
 void bring_to_front(HWND dialog)
 {
+    // Already the frontmost visible window: nothing to do (and nothing to redraw).
+    HWND w = GetTopWindow(nullptr);
+    for (int n = 0; w && !IsWindowVisible(w) && n < 10000; ++n) w = GetWindow(w, GW_HWNDNEXT);
+    if (w == dialog) return;
     constexpr UINT flags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW;
     SetWindowPos(dialog, HWND_TOPMOST, 0, 0, 0, 0, flags);
     SetWindowPos(dialog, HWND_NOTOPMOST, 0, 0, 0, 0, flags);
@@ -239,7 +242,12 @@ void show_pending(HWND dialog, Ui& ui)
         std::lock_guard<std::mutex> lock(s.m);
         batch.swap(s.pending);
     }
+    // One repaint for the batch rather than one per record.
+    SendMessageW(ui.text, WM_SETREDRAW, FALSE, 0);
     for (const std::string& record : batch) append(ui, record);
+    SendMessageW(ui.text, WM_SETREDRAW, TRUE, 0);
+    SendMessageW(ui.text, EM_SCROLLCARET, 0, 0);
+    InvalidateRect(ui.text, nullptr, TRUE);
     {
         std::lock_guard<std::mutex> lock(s.m);
         s.shown += batch.size();

@@ -114,11 +114,16 @@ int main(int argc, char **argv)
     put(6, " End of step 1");
     touch("written1");
 
-    /* Step 2: more than the text area holds; the oldest lines must give way. */
+    /* Step 2: more than the text area holds (130 lines of 1000 + 2 characters); the
+       oldest lines must give way. */
     if (!wait_for("go2")) return 3;
-    for (int i = 1; i <= 1500; ++i) {
-        char rec[100];
-        snprintf(rec, sizeof rec, " record %04d %-84s|", i, "of ninety-nine characters");
+    for (int i = 1; i <= 130; ++i) {
+        char rec[1001];
+        memset(rec, '.', 1000);
+        rec[1000] = '\0';
+        char head[32];
+        const int n = snprintf(head, sizeof head, " record %04d ", i);
+        memcpy(rec, head, (size_t)n);
         put(6, rec);
     }
     touch("written2");
