@@ -40,6 +40,10 @@ function(zor_windows_library)
   target_link_options(zor PRIVATE ${PROJECT_BINARY_DIR}/zor.def -Wl,--exclude-all-symbols)
   set_property(TARGET zor APPEND PROPERTY LINK_DEPENDS ${PROJECT_BINARY_DIR}/zor.def)
   target_link_libraries(zor PRIVATE user32 gdi32)
+  # Programs linked with the static library (the test programs) declare the routines
+  # without dllimport.
+  target_compile_definitions(zor_static INTERFACE ZOR_STATIC)
+  target_link_libraries(zor_static INTERFACE user32 gdi32)
   find_program(ZOR_OBJDUMP NAMES ${CMAKE_OBJDUMP} x86_64-w64-mingw32-objdump objdump REQUIRED)
   add_custom_command(TARGET zor POST_BUILD
     COMMAND ${CMAKE_COMMAND} -DOBJDUMP=${ZOR_OBJDUMP} -DDLL=$<TARGET_FILE:zor>
