@@ -144,6 +144,7 @@ def main():
     ap.add_argument("--height", type=int, default=600)
     args = ap.parse_args()
 
+    began = time.time()
     shutil.rmtree(args.work, ignore_errors=True)
     os.makedirs(args.work)
     xvfb, display = start_xvfb(args.width, args.height)
@@ -225,8 +226,12 @@ def main():
             result = f.read().strip()
         if result != "ok":
             fail(f"the writer found: {result}")
-        writer.wait(timeout=60)
-        print(f"output window test passed; screenshot {png}")
+        # The desktop that ran the writer may outlive it a while; it is not waited for.
+        try:
+            writer.wait(timeout=15)
+        except subprocess.TimeoutExpired:
+            pass
+        print(f"output window test passed in {time.time() - began:.1f} s; screenshot {png}")
         return 0
     finally:
         if writer and writer.poll() is None:
