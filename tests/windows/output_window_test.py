@@ -4,9 +4,10 @@
 # X04BAF; the window's title, menus, states and text are read back through the Win32 API,
 # from the window's own process (window_writer's report) and from another one
 # (window_inspector.exe); a screenshot of the screen is kept as output_window.png in the
-# work directory. Steps: records shown; read-only toggle greys Cut, Paste and Clear All;
-# the text area stays within 100000 characters by dropping its oldest lines; Close hides
-# the window until the next record; Exit drops records for good.
+# work directory. Steps: records shown; read-only toggle (menu and Ctrl+R) greys Cut,
+# Paste and Clear All; records of four threads printing at once all arrive; the text area
+# stays within 100000 characters by dropping its oldest lines; Close hides the window
+# until the next record; Exit drops records for good.
 import argparse
 import os
 import shutil
@@ -190,12 +191,32 @@ def main():
         if field(r, "read-only") != "yes" or menu_state(r, "Cu&t\tCtrl+X") != "grey":
             fail("Toggle Readonly twice did not restore the read-only state")
 
-        # Step 2: 130 records of 1000 characters (1002 with CR LF) do not fit.
-        start = time.time()
+        # The same toggle from the keyboard: Ctrl+R through the window's accelerators.
+        s.request("ctrl R")
+        r = s.request("report report1d.txt", "report1d.txt")
+        if field(r, "read-only") != "no" or menu_state(r, "&Paste\tCtrl+V") != "on":
+            fail("Ctrl+R did not toggle the read-only state")
+        s.request("ctrl R")
+        r = s.request("report report1e.txt", "report1e.txt")
+        if field(r, "read-only") != "yes":
+            fail("Ctrl+R twice did not restore the read-only state")
+
+        # Step 2: four threads print 25 records each at the same time.
         open(w("go2"), "w").close()
-        wait_file(w("written2"), 180, "130 long records")
-        seconds = time.time() - start
+        wait_file(w("written2"), 60, "the records of four threads")
         r = s.request("report report2.txt", "report2.txt")
+        got = [l.split() for l in text_of(r) if l.startswith(" thread ")]
+        for t in range(4):
+            mine = [int(x[3]) for x in got if x[1] == str(t)]
+            if mine != list(range(1, 26)):
+                fail(f"thread {t}'s records arrived as {mine}")
+
+        # Step 3: 130 records of 1000 characters (1002 with CR LF) do not fit.
+        start = time.time()
+        open(w("go3"), "w").close()
+        wait_file(w("written3"), 180, "130 long records")
+        seconds = time.time() - start
+        r = s.request("report report3.txt", "report3.txt")
         length = int(field(r, "text length"))
         lines = [l for l in text_of(r) if l]
         if length > TEXT_LIMIT:
@@ -208,19 +229,19 @@ def main():
         print(f"130 records in {seconds:.1f} s; the window keeps records "
               f"{numbers[0]}..130, {length} characters")
 
-        # Step 3: Close hides the window until the next record.
+        # Step 4: Close hides the window until the next record.
         s.request("menu &Close (until more output)")
-        if field(s.inspect("inspect3a.txt"), "visible") != "no":
+        if field(s.inspect("inspect4a.txt"), "visible") != "no":
             fail("Close did not hide the window")
-        open(w("go3"), "w").close()
-        wait_file(w("written3"), 60, "the record after Close")
-        r = s.inspect("inspect3b.txt")
+        open(w("go4"), "w").close()
+        wait_file(w("written4"), 60, "the record after Close")
+        r = s.inspect("inspect4b.txt")
         if field(r, "visible") != "yes" or text_of(r)[-2] != " Shown again after Close.":
             fail(f"the record after Close was not shown:\n{r[-300:]}")
 
-        # Step 4: Exit ends the window for good.
+        # Step 5: Exit ends the window for good.
         s.request("menu &Exit (permanently)")
-        open(w("go4"), "w").close()
+        open(w("go5"), "w").close()
         wait_file(w("writer_result"), 60, "the writer's result")
         with open(w("writer_result")) as f:
             result = f.read().strip()

@@ -6,7 +6,8 @@
                                   holds "ok" or the faults found. While it waits it serves
                                   DIR/request: "report NAME" writes the window's report
                                   (window_report.h, menus included: they belong to this
-                                  process) to DIR/NAME; "menu TEXT" chooses that menu item.
+                                  process) to DIR/NAME; "menu TEXT" chooses that menu item;
+                                  "ctrl X" presses Ctrl+X on the keyboard.
      window_writer --no-display   writes records where no window can appear; must return. */
 #include "window_report.h"
 #include "zor.h"
@@ -45,6 +46,35 @@ static void choose(HWND w, const char *text)
     if (id != 0 && id != (UINT)-1) SendMessageW(w, WM_COMMAND, MAKEWPARAM(id, 0), 0);
 }
 
+static DWORD WINAPI print_from_thread(void *arg)
+{
+    const int t = (int)(INT_PTR)arg;
+    for (int i = 1; i <= 25; ++i) {
+        char rec[64];
+        snprintf(rec, sizeof rec, " thread %d record %02d", t, i);
+        put(6, rec);
+    }
+    return 0;
+}
+
+/* Presses Ctrl and a letter on the keyboard, with the window in front. */
+static void press_ctrl(HWND w, char letter)
+{
+    SetForegroundWindow(w);
+    Sleep(200);
+    INPUT in[4];
+    memset(in, 0, sizeof in);
+    for (int i = 0; i < 4; ++i) in[i].type = INPUT_KEYBOARD;
+    in[0].ki.wVk = VK_CONTROL;
+    in[1].ki.wVk = (WORD)letter;
+    in[2].ki.wVk = (WORD)letter;
+    in[2].ki.dwFlags = KEYEVENTF_KEYUP;
+    in[3].ki.wVk = VK_CONTROL;
+    in[3].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(4, in, sizeof in[0]);
+    Sleep(300);
+}
+
 static void serve_request(void)
 {
     char path[MAX_PATH + 64], line[512] = "";
@@ -66,6 +96,8 @@ static void serve_request(void)
         }
     } else if (strncmp(line, "menu ", 5) == 0 && w) {
         choose(w, line + 5);
+    } else if (strncmp(line, "ctrl ", 5) == 0 && w) {
+        press_ctrl(w, line[5]);
     }
     DeleteFileA(path);
 }
@@ -114,9 +146,26 @@ int main(int argc, char **argv)
     put(6, " End of step 1");
     touch("written1");
 
-    /* Step 2: more than the text area holds (130 lines of 1000 + 2 characters); the
-       oldest lines must give way. */
+    /* Step 2: four threads print at once; every record must arrive, each thread's in
+       order. */
     if (!wait_for("go2")) return 3;
+    {
+        HANDLE threads[4];
+        for (int t = 0; t < 4; ++t)
+            threads[t] = CreateThread(NULL, 0, print_from_thread, (void *)(INT_PTR)t, 0, NULL);
+        for (int t = 0; t < 4; ++t)
+            if (threads[t]) {
+                WaitForSingleObject(threads[t], INFINITE);
+                CloseHandle(threads[t]);
+            } else {
+                strcat(faults, " no-thread");
+            }
+    }
+    touch("written2");
+
+    /* Step 3: more than the text area holds (130 lines of 1000 + 2 characters); the
+       oldest lines must give way. */
+    if (!wait_for("go3")) return 3;
     for (int i = 1; i <= 130; ++i) {
         char rec[1001];
         memset(rec, '.', 1000);
@@ -126,15 +175,15 @@ int main(int argc, char **argv)
         memcpy(rec, head, (size_t)n);
         put(6, rec);
     }
-    touch("written2");
-
-    /* Step 3: the window was hidden through File > Close; the next record shows it. */
-    if (!wait_for("go3")) return 3;
-    put(6, " Shown again after Close.");
     touch("written3");
 
-    /* Step 4: after File > Exit records are dropped at once, and no window comes back. */
+    /* Step 4: the window was hidden through File > Close; the next record shows it. */
     if (!wait_for("go4")) return 3;
+    put(6, " Shown again after Close.");
+    touch("written4");
+
+    /* Step 5: after File > Exit records are dropped at once, and no window comes back. */
+    if (!wait_for("go5")) return 3;
     const DWORD start = GetTickCount();
     put(6, " After Exit: dropped.");
     const DWORD ms = GetTickCount() - start;
