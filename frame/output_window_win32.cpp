@@ -204,6 +204,8 @@ void append(Ui& ui, std::string_view record)
         line.reserve(record.size() + 3);
         line.append(record);
         line.append("\r\n");
+        for (char& c : line)   // a NUL would end the text early
+            if (c == '\0') c = ' ';
     } catch (...) {
         return;
     }
