@@ -36,10 +36,18 @@ constexpr int trim_lines = 10;
 constexpr int trim_attempts = 10;
 
 // A printing thread waits for the window to appear, and then for its record to be
-// shown, in steps of 10 ms, at most 1000 steps (10 s) each time: a window thread that
-// does not answer costs a routine 10 s at worst and never stops it.
+// shown, in steps of 10 ms, for at most 1000 steps (10 s) each time: a window thread
+// that does not answer costs a routine 10 s at worst and never stops it. A step ends
+// early when the window thread announces a change; the limit is kept as a deadline.
 constexpr auto wait_step = std::chrono::milliseconds(10);
-constexpr int wait_steps = 1000;
+constexpr auto wait_limit = 1000 * wait_step;
+
+template <class Done>
+void wait_until(std::unique_lock<std::mutex>& lock, std::condition_variable& changed, Done done)
+{
+    const auto deadline = std::chrono::steady_clock::now() + wait_limit;
+    while (!done() && std::chrono::steady_clock::now() < deadline) changed.wait_for(lock, wait_step);
+}
 
 constexpr int text_width = 600, text_height = 400;   // pixels, at creation
 constexpr int font_points = 9;
@@ -494,8 +502,7 @@ void show_in_window(std::string_view record) noexcept
             CloseHandle(thread);
             s.phase = Phase::starting;
         }
-        for (int step = 0; s.phase == Phase::starting && step < wait_steps; ++step)
-            s.changed.wait_for(lock, wait_step);
+        wait_until(lock, s.changed, [&] { return s.phase != Phase::starting; });
         if (s.phase != Phase::open) return;
         s.pending.emplace_back(record);
         const unsigned long long mine = ++s.handed;
@@ -504,8 +511,7 @@ void show_in_window(std::string_view record) noexcept
             --s.handed;
             return;
         }
-        for (int step = 0; s.shown < mine && s.phase == Phase::open && step < wait_steps; ++step)
-            s.changed.wait_for(lock, wait_step);
+        wait_until(lock, s.changed, [&] { return s.shown >= mine || s.phase != Phase::open; });
     } catch (...) {
         // A lock or an allocation that failed: the record is dropped.
     }
