@@ -14,7 +14,8 @@ macro(zor_windows_setup)
     endif()
   endif()
   # The C, C++ and Fortran runtimes go into each program and into the DLL (static
-  # libgcc, libstdc++, libgfortran, libquadmath, libwinpthread).
+  # libgcc, libstdc++, libgfortran, libquadmath, libwinpthread): the DLL imports system
+  # DLLs only, and the test programs run under Wine with nothing but zor.dll on WINEPATH.
   add_link_options(-static)
 endmacro()
 

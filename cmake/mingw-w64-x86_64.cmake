@@ -18,7 +18,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Every program and the DLL carry their C, C++ and Fortran runtimes: the DLL then imports
-# system DLLs only, and the test programs run under Wine without a runtime on WINEPATH.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+# cmake/ZorWindows.cmake links every program and the DLL with -static, so that each
+# carries its C, C++ and Fortran runtimes and imports system DLLs only.

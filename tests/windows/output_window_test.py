@@ -18,6 +18,13 @@ import time
 TEXT_LIMIT = 100000
 
 
+STARTED = time.time()
+
+
+def note(msg):
+    print(f"[{time.time() - STARTED:5.1f} s] {msg}", flush=True)
+
+
 def fail(msg):
     print("FAIL: " + msg)
     sys.exit(1)
@@ -156,6 +163,7 @@ def main():
         writer = s.on_desktop(args.writer, windows_path(args.work), wait=False)
         w = lambda name: os.path.join(args.work, name)
 
+        note("window starting")
         # Step 1: the records, as the window's own process and another one read them.
         wait_file(w("written1"), 60, "the first records")
         own = s.request("report report1.txt", "report1.txt")
@@ -170,6 +178,7 @@ def main():
         if text_of(other) != text_of(own):
             fail("the text seen from another process differs")
 
+        note("step 1 checked")
         time.sleep(0.5)
         png = w("output_window.png")
         subprocess.run(["import", "-window", "root", png], env=env, check=True, timeout=60)
@@ -191,6 +200,7 @@ def main():
         if field(r, "read-only") != "yes" or menu_state(r, "Cu&t\tCtrl+X") != "grey":
             fail("Toggle Readonly twice did not restore the read-only state")
 
+        note("read-only toggle checked")
         # The same toggle from the keyboard: Ctrl+R through the window's accelerators.
         s.request("ctrl R")
         r = s.request("report report1d.txt", "report1d.txt")
@@ -201,6 +211,7 @@ def main():
         if field(r, "read-only") != "yes":
             fail("Ctrl+R twice did not restore the read-only state")
 
+        note("Ctrl+R checked")
         # Step 2: four threads print 25 records each at the same time.
         open(w("go2"), "w").close()
         wait_file(w("written2"), 60, "the records of four threads")
@@ -211,6 +222,7 @@ def main():
             if mine != list(range(1, 26)):
                 fail(f"thread {t}'s records arrived as {mine}")
 
+        note("threads checked")
         # Step 3: 130 records of 1000 characters (1002 with CR LF) do not fit.
         start = time.time()
         open(w("go3"), "w").close()
@@ -229,6 +241,7 @@ def main():
         print(f"130 records in {seconds:.1f} s; the window keeps records "
               f"{numbers[0]}..130, {length} characters")
 
+        note("text limit checked")
         # Step 4: Close hides the window until the next record.
         s.request("menu &Close (until more output)")
         if field(s.inspect("inspect4a.txt"), "visible") != "no":
@@ -239,6 +252,7 @@ def main():
         if field(r, "visible") != "yes" or text_of(r)[-2] != " Shown again after Close.":
             fail(f"the record after Close was not shown:\n{r[-300:]}")
 
+        note("Close checked")
         # Step 5: Exit ends the window for good.
         s.request("menu &Exit (permanently)")
         open(w("go5"), "w").close()
@@ -247,6 +261,7 @@ def main():
             result = f.read().strip()
         if result != "ok":
             fail(f"the writer found: {result}")
+        note("Exit checked")
         # The desktop that ran the writer may outlive it a while; it is not waited for.
         try:
             writer.wait(timeout=15)
