@@ -1,5 +1,6 @@
-// frame/platform.cpp — console check and process end. The Windows build adds the
-// output window here; elsewhere every process counts as having a console.
+// frame/platform.cpp — console check and process end. The Windows build has its console
+// check and output window in frame/output_window_win32.cpp; elsewhere every process
+// counts as having a console.
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,7 +10,9 @@ extern "C" void zor_fortran_flush_all();   // frame/record_writer.f90
 
 namespace zor::platform {
 
+#ifndef _WIN32
 bool console_or_window(std::string_view) noexcept { return true; }
+#endif
 
 void end_process(int status) noexcept
 {
