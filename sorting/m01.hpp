@@ -1,0 +1,221 @@
+// sorting/m01.hpp — the pieces the M01 kernels share: argument checks, the sort of a
+// real section with its NaN rule, keys that turn ranking into sorting distinct pairs,
+// a stable merge sort for comparisons the library cannot trust, and permutations.
+#pragma once
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "frame/frame.hpp"
+#include "sorting/m01_messages.hpp"
+#include "sorting/quicksort.hpp"
+
+namespace zor::sorting {
+
+// ---------------------------------------------------------------------------------
+// Checks. Each returns 0 or the error number, with the message written.
+
+// ORDER: 'A', 'a', 'D' or 'd' (the first character of the argument). Sets descending.
+inline int check_order(Message& msg, const char* order, std::size_t order_len, bool& descending)
+{
+    const char c = order_len > 0 ? order[0] : '\0';
+    if (c == 'A' || c == 'a' || c == 'D' || c == 'd') {
+        descending = c == 'D' || c == 'd';
+        return 0;
+    }
+    // Quoted as it is when printable, otherwise as '?', so that no byte can disturb
+    // the message; an argument of length 0 is quoted as ''.
+    char shown[1] = {static_cast<unsigned char>(c) >= 0x20 && static_cast<unsigned char>(c) < 0x7f ? c : '?'};
+    return msg.fail(2, msg_order, std::string_view(shown, order_len > 0 ? 1 : 0));
+}
+
+// M2 >= 1, M1 >= 1, M1 <= M2: the section checks of the chapter, in this order.
+inline int check_section(Message& msg, Zor_Integer m1, Zor_Integer m2)
+{
+    if (m2 < 1) return msg.fail(1, msg_m2_ge_1, m2);
+    if (m1 < 1) return msg.fail(1, msg_m1_ge_1, m1);
+    if (m1 > m2) return msg.fail(1, msg_m1_le_m2, m1, m2);
+    return 0;
+}
+
+// The checks of a string section on columns l1..l2, shared with M01DCF.
+inline int check_strings(Message& msg, std::int64_t len, Zor_Integer m1, Zor_Integer m2, Zor_Integer l1,
+                  Zor_Integer l2, const char* order, std::size_t order_len, bool& descending)
+{
+    if (len > 255) return msg.fail(1, msg_len_le_255, static_cast<long long>(len));
+    if (int e = check_order(msg, order, order_len, descending)) return e;
+    if (int e = check_section(msg, m1, m2)) return e;
+    if (l2 < 1) return msg.fail(1, msg_l2_ge_1, l2);
+    if (l1 < 1) return msg.fail(1, msg_l1_ge_1, l1);
+    if (l1 > l2) return msg.fail(1, msg_l1_le_l2, l1, l2);
+    if (l2 > len) return msg.fail(1, msg_l2_le_len, l2, static_cast<long long>(len));
+    return 0;
+}
+
+inline std::size_t section_length(Zor_Integer m1, Zor_Integer m2)
+{
+    return static_cast<std::size_t>(static_cast<std::int64_t>(m2) - m1 + 1);
+}
+
+// ---------------------------------------------------------------------------------
+// Sorting a real section (M01CAF).
+
+// Sorts rv, the section whose first element is at position origin (counted from 1).
+// NaNs are first gathered, in one pass that moves nothing when there is none, after
+// the numbers (which keep their order); the numbers are then sorted by the chapter's
+// quicksort, so that a section without NaN goes through exactly its comparisons and
+// moves. Descending is the ascending sort reversed: NaNs then come first.
+inline SortReport sort_reals(std::span<double> rv, bool descending, std::int64_t origin)
+{
+    std::size_t w = 0;
+    for (std::size_t k = 0; k < rv.size(); ++k) {
+        if (std::isnan(rv[k])) continue;
+        if (w != k) std::swap(rv[w], rv[k]);
+        ++w;
+    }
+    const SortReport r =
+        quicksort(rv.first(w), [](double a, double b) { return a < b; }, origin);
+    if (descending) reverse(rv);
+    return r;
+}
+
+// ---------------------------------------------------------------------------------
+// Ranking. A key maps each value to an unsigned integer whose order is the ranking
+// order (descending by complement); with the position as a second key every pair is
+// distinct, so any correct sort of the pairs is a stable ranking.
+
+// Reals: -0 and +0 rank equal; every NaN ranks above +infinity, NaNs equal.
+inline std::uint64_t real_key(double x)
+{
+    if (std::isnan(x)) return UINT64_MAX;
+    const std::uint64_t b = std::bit_cast<std::uint64_t>(x == 0.0 ? 0.0 : x);
+    return (b >> 63) ? ~b : b | (std::uint64_t{1} << 63);
+}
+
+inline std::uint32_t int_key(Zor_Integer x)
+{
+    return static_cast<std::uint32_t>(x) ^ 0x80000000u;
+}
+
+// Stable merge sort of idx under before: ties keep their order. Used where the
+// comparison is the user's and may be inconsistent: every index it reads is within
+// the array whatever before answers. Insertion-sorted runs of 16, then merges through
+// a buffer of the same size.
+template <class Before>
+void merge_sort(std::span<std::uint32_t> idx, Before&& before)
+{
+    const std::size_t n = idx.size();
+    constexpr std::size_t run = 16;
+    for (std::size_t s = 0; s < n; s += run) {
+        const std::size_t e = std::min(n, s + run);
+        for (std::size_t k = s + 1; k < e; ++k) {
+            const std::uint32_t x = idx[k];
+            std::size_t m = k;
+            while (m > s && before(x, idx[m - 1])) {
+                idx[m] = idx[m - 1];
+                --m;
+            }
+            idx[m] = x;
+        }
+    }
+    if (n <= run) return;
+    std::vector<std::uint32_t> buf(n);
+    std::uint32_t* from = idx.data();
+    std::uint32_t* to = buf.data();
+    for (std::size_t width = run; width < n; width *= 2) {
+        for (std::size_t s = 0; s < n; s += 2 * width) {
+            const std::size_t mid = std::min(n, s + width), e = std::min(n, s + 2 * width);
+            std::size_t i = s, j = mid, o = s;
+            while (i < mid && j < e) to[o++] = before(from[j], from[i]) ? from[j++] : from[i++];
+            while (i < mid) to[o++] = from[i++];
+            while (j < e) to[o++] = from[j++];
+        }
+        std::swap(from, to);
+    }
+    if (from != idx.data()) std::memcpy(idx.data(), from, n * sizeof(std::uint32_t));
+}
+
+// Ranks from an order: the element at offset order[r] has rank m1 + r.
+inline void ranks_from_order(std::span<const std::uint32_t> order, Zor_Integer m1, Zor_Integer* irank)
+{
+    for (std::size_t r = 0; r < order.size(); ++r)
+        irank[order[r]] = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(r));
+}
+
+// Stable ranking by a consistent comparison of offsets (ties broken by offset, so
+// the pairs are distinct and the chapter's quicksort may sort them).
+template <class Less>
+void rank_by(std::size_t n, Zor_Integer m1, Zor_Integer* irank, Less&& less)
+{
+    std::vector<std::uint32_t> idx(n);
+    for (std::size_t i = 0; i < n; ++i) idx[i] = static_cast<std::uint32_t>(i);
+    quicksort(std::span<std::uint32_t>(idx), [&](std::uint32_t a, std::uint32_t b) {
+        const int c = less(a, b);
+        return c < 0 || (c == 0 && a < b);
+    });
+    ranks_from_order(idx, m1, irank);
+}
+
+// ---------------------------------------------------------------------------------
+// Permutations of m1..m2 held in p[0..n-1].
+
+class Bitmap {
+public:
+    explicit Bitmap(std::size_t n) : words_((n + 63) / 64, 0) {}
+    bool test(std::size_t i) const { return (words_[i / 64] >> (i % 64)) & 1u; }
+    void set(std::size_t i) { words_[i / 64] |= std::uint64_t{1} << (i % 64); }
+
+private:
+    std::vector<std::uint64_t> words_;
+};
+
+// Returns the offset of the first entry that is out of range or repeats an earlier
+// one, or n when p is a permutation of m1..m2.
+inline std::size_t first_non_permutation(const Zor_Integer* p, std::size_t n, Zor_Integer m1)
+{
+    Bitmap seen(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const std::int64_t v = static_cast<std::int64_t>(p[i]) - m1;
+        if (v < 0 || static_cast<std::uint64_t>(v) >= n || seen.test(static_cast<std::size_t>(v))) return i;
+        seen.set(static_cast<std::size_t>(v));
+    }
+    return n;
+}
+
+// The permutation message: values the position counted from 0, the value, and the
+// position counted from 1 (m1 + offset).
+inline int fail_permutation(Message& msg, int code, const Zor_Integer* p, std::size_t at, Zor_Integer m1)
+{
+    const long long pos1 = static_cast<long long>(m1) + static_cast<long long>(at);
+    return msg.fail(2, code, pos1 - 1, p[at], pos1);
+}
+
+// Moves element i of a (records of size bytes) to position rank[i] - m1, in place,
+// following the cycles of the permutation (each record is written once).
+inline void scatter_records(char* a, std::size_t size, const Zor_Integer* rank, std::size_t n,
+                            Zor_Integer m1)
+{
+    Bitmap done(n);
+    char hold[256], next[256];
+    for (std::size_t s = 0; s < n; ++s) {
+        if (done.test(s)) continue;
+        std::memcpy(hold, a + s * size, size);
+        std::size_t j = static_cast<std::size_t>(rank[s] - m1);
+        done.set(s);
+        while (j != s) {   // at most n steps: each visits a new position of the cycle
+            std::memcpy(next, a + j * size, size);
+            std::memcpy(a + j * size, hold, size);
+            std::memcpy(hold, next, size);
+            done.set(j);
+            j = static_cast<std::size_t>(rank[j] - m1);
+        }
+        std::memcpy(a + s * size, hold, size);
+    }
+}
+
+}  // namespace zor::sorting
