@@ -14,50 +14,45 @@
 namespace zor::sorting {
 namespace {
 
-struct RealPair {
-    std::uint64_t key;
-    std::uint32_t pos;
-};
+// Reals in ranking order: -0 and +0 equal, NaNs above every number (below it, for a
+// descending ranking) and equal among themselves.
+inline bool real_before(double a, double b, bool descending)
+{
+    if (descending) std::swap(a, b);
+    return a < b || (std::isnan(b) && !std::isnan(a));
+}
 
-// M01DAF: keys and positions side by side, sorted by the chapter's quicksort (all
-// pairs distinct, so the order is unique and therefore stable).
+// M01DAF.
 int m01da(const double* rv, Zor_Integer m1, Zor_Integer m2, const char* order, std::size_t order_len,
           Zor_Integer* irank, Message& msg)
 {
     bool descending = false;
     if (int e = check_order(msg, order, order_len, descending)) return e;
     if (int e = check_section(msg, m1, m2)) return e;
-    const std::size_t n = section_length(m1, m2);
     const double* x = rv + (m1 - 1);
-    const std::uint64_t flip = descending ? UINT64_MAX : 0;
-    std::vector<RealPair> pairs(n);
-    for (std::size_t i = 0; i < n; ++i) pairs[i] = {real_key(x[i]) ^ flip, static_cast<std::uint32_t>(i)};
-    quicksort(std::span<RealPair>(pairs), [](const RealPair& a, const RealPair& b) {
-        return a.key < b.key || (a.key == b.key && a.pos < b.pos);
-    });
-    Zor_Integer* r = irank + (m1 - 1);
-    for (std::size_t k = 0; k < n; ++k)
-        r[pairs[k].pos] = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(k));
+    if (descending)
+        rank_offsets(section_length(m1, m2), m1, irank + (m1 - 1),
+                     [x](Zor_Integer a, Zor_Integer b) { return real_before(x[a], x[b], true); });
+    else
+        rank_offsets(section_length(m1, m2), m1, irank + (m1 - 1),
+                     [x](Zor_Integer a, Zor_Integer b) { return real_before(x[a], x[b], false); });
     return 0;
 }
 
-// M01DBF: key and position packed in one 64-bit word.
+// M01DBF.
 int m01db(const Zor_Integer* iv, Zor_Integer m1, Zor_Integer m2, const char* order,
           std::size_t order_len, Zor_Integer* irank, Message& msg)
 {
     bool descending = false;
     if (int e = check_order(msg, order, order_len, descending)) return e;
     if (int e = check_section(msg, m1, m2)) return e;
-    const std::size_t n = section_length(m1, m2);
     const Zor_Integer* x = iv + (m1 - 1);
-    const std::uint32_t flip = descending ? UINT32_MAX : 0;
-    std::vector<std::uint64_t> pairs(n);
-    for (std::size_t i = 0; i < n; ++i)
-        pairs[i] = (std::uint64_t{int_key(x[i]) ^ flip} << 32) | static_cast<std::uint32_t>(i);
-    quicksort(std::span<std::uint64_t>(pairs), [](std::uint64_t a, std::uint64_t b) { return a < b; });
-    Zor_Integer* r = irank + (m1 - 1);
-    for (std::size_t k = 0; k < n; ++k)
-        r[static_cast<std::uint32_t>(pairs[k])] = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(k));
+    if (descending)
+        rank_offsets(section_length(m1, m2), m1, irank + (m1 - 1),
+                     [x](Zor_Integer a, Zor_Integer b) { return x[b] < x[a]; });
+    else
+        rank_offsets(section_length(m1, m2), m1, irank + (m1 - 1),
+                     [x](Zor_Integer a, Zor_Integer b) { return x[a] < x[b]; });
     return 0;
 }
 
@@ -71,8 +66,8 @@ int m01dc(const char* ch, std::int64_t len, Zor_Integer m1, Zor_Integer m2, Zor_
     const char* key = ch + static_cast<std::size_t>(m1 - 1) * size + (l1 - 1);
     const std::size_t klen = static_cast<std::size_t>(l2 - l1 + 1);
     const int sign = descending ? -1 : 1;
-    rank_by(section_length(m1, m2), m1, irank + (m1 - 1), [&](std::uint32_t a, std::uint32_t b) {
-        return sign * std::memcmp(key + a * size, key + b * size, klen);
+    rank_by(section_length(m1, m2), m1, irank + (m1 - 1), [&](Zor_Integer a, Zor_Integer b) {
+        return sign * std::memcmp(key + static_cast<std::size_t>(a) * size, key + static_cast<std::size_t>(b) * size, klen);
     });
     return 0;
 }
@@ -110,7 +105,7 @@ int rank_rows(const T* a, Zor_Integer ldm, Zor_Integer m1, Zor_Integer m2, Zor_I
     if (m1 > m2) return 0;
     const std::size_t ld = static_cast<std::size_t>(ldm);
     const T* first = a + static_cast<std::size_t>(m1 - 1);
-    rank_by(section_length(m1, m2), m1, irank + (m1 - 1), [&](std::uint32_t r, std::uint32_t s) {
+    rank_by(section_length(m1, m2), m1, irank + (m1 - 1), [&](Zor_Integer r, Zor_Integer s) {
         for (Zor_Integer j = n1; j <= n2; ++j) {
             const T* col = first + static_cast<std::size_t>(j - 1) * ld;
             const std::uint64_t x = key_of(col[r]), y = key_of(col[s]);
@@ -131,9 +126,9 @@ int rank_columns(const T* a, Zor_Integer ldm, Zor_Integer m1, Zor_Integer m2, Zo
     if (int e = check_matrix(msg, ldm, m1, m2, n1, n2, order, order_len, true, descending)) return e;
     const std::size_t ld = static_cast<std::size_t>(ldm);
     const T* first = a + static_cast<std::size_t>(n1 - 1) * ld;
-    rank_by(section_length(n1, n2), n1, irank + (n1 - 1), [&](std::uint32_t c, std::uint32_t d) {
-        const T* x = first + c * ld;
-        const T* y = first + d * ld;
+    rank_by(section_length(n1, n2), n1, irank + (n1 - 1), [&](Zor_Integer c, Zor_Integer d) {
+        const T* x = first + static_cast<std::size_t>(c) * ld;
+        const T* y = first + static_cast<std::size_t>(d) * ld;
         for (Zor_Integer i = m1 - 1; i < m2; ++i) {
             const std::uint64_t u = key_of(x[i]), v = key_of(y[i]);
             if (u != v) return (u < v) != descending ? -1 : 1;
@@ -149,17 +144,13 @@ int m01dz(M01DZ_Adapter adapter, Zor_UserFn compar, Zor_Integer m1, Zor_Integer 
           Zor_Integer* irank, Zor_Integer* iuser, double* ruser, Zor_Comm* comm, Message& msg)
 {
     if (int e = check_section(msg, m1, m2)) return e;
-    const std::size_t n = section_length(m1, m2);
-    std::vector<std::uint32_t> idx(n);
-    for (std::size_t i = 0; i < n; ++i) idx[i] = static_cast<std::uint32_t>(i);
-    merge_sort(std::span<std::uint32_t>(idx), [&](std::uint32_t a, std::uint32_t b) {
+    rank_offsets(section_length(m1, m2), m1, irank + (m1 - 1), [&](Zor_Integer a, Zor_Integer b) {
         const Zor_Integer i = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(a));
         const Zor_Integer j = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(b));
         Zor_Integer before = 0;
         adapter(compar, &i, &j, &before, iuser, ruser, comm);
         return before != 0;
     });
-    ranks_from_order(idx, m1, irank + (m1 - 1));
     return 0;
 }
 
