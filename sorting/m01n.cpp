@@ -86,7 +86,7 @@ int m01nc(const char* valid, std::size_t len, Zor_Integer m1, Zor_Integer m2, co
 //   mode 2: the first i with a(i) >= x(k), or 0;
 //   mode 3: the interval i, m1 <= i <= max(m1, m2 - 1), with a(i) <= x(k) < a(i+1),
 //           the end intervals taking the points beyond them (for piecewise evaluation);
-//   mode 4: the i nearest to x(k), the lower one on a tie.
+//   mode 4: the i nearest to x(k), the lowest such i on a tie (m1 for a NaN x(k)).
 int m01nd(const double* a, Zor_Integer n, Zor_Integer m1, Zor_Integer m2, const double* x, Zor_Integer m,
           Zor_Integer mode, Zor_Integer* idx, Message& msg)
 {
@@ -108,14 +108,17 @@ int m01nd(const double* a, Zor_Integer n, Zor_Integer m1, Zor_Integer m2, const 
         case 1: r = le > 0 ? at(le - 1) : 0; break;
         case 2: r = lt < len && v[lt] >= xk ? at(lt) : 0; break;
         case 3: r = at(std::min(le > 0 ? le - 1 : 0, len > 1 ? len - 2 : 0)); break;
-        default:
-            if (le == 0)
+        default: {
+            // The lower neighbour is the first element equal to v[le - 1].
+            if (le == 0) {
                 r = at(0);
-            else if (le == len)
-                r = at(len - 1);
-            else
-                r = (xk - v[le - 1]) <= (v[le] - xk) ? at(le - 1) : at(le);
+                break;
+            }
+            const double below = v[le - 1];
+            const std::size_t first = count_prefix(le, [&](std::size_t i) { return v[i] < below; });
+            r = le == len || (xk - below) <= (v[le] - xk) ? at(first) : at(le);
             break;
+        }
         }
         idx[k] = r;
     }
