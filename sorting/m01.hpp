@@ -67,17 +67,24 @@ inline std::size_t section_length(Zor_Integer m1, Zor_Integer m2)
 // Sorting a real section (M01CAF).
 
 // Sorts rv, the section whose first element is at position origin (counted from 1).
-// NaNs are first gathered, in one pass that moves nothing when there is none, after
-// the numbers (which keep their order); the numbers are then sorted by the chapter's
+// NaNs are first gathered after the numbers (which keep their order), in a pass that
+// runs only when there is a NaN; the numbers are then sorted by the chapter's
 // quicksort, so that a section without NaN goes through exactly its comparisons and
 // moves. Descending is the ascending sort reversed: NaNs then come first.
 inline SortReport sort_reals(std::span<double> rv, bool descending, std::int64_t origin)
 {
-    std::size_t w = 0;
-    for (std::size_t k = 0; k < rv.size(); ++k) {
-        if (std::isnan(rv[k])) continue;
-        if (w != k) std::swap(rv[w], rv[k]);
-        ++w;
+    // The test is a branch-free reduction (x != x only for a NaN), which compilers
+    // vectorise; the gathering pass runs only when a NaN is present.
+    bool any_nan = false;
+    for (const double x : rv) any_nan |= x != x;
+    std::size_t w = rv.size();
+    if (any_nan) {
+        w = 0;
+        for (std::size_t k = 0; k < rv.size(); ++k) {
+            if (std::isnan(rv[k])) continue;
+            if (w != k) std::swap(rv[w], rv[k]);
+            ++w;
+        }
     }
     const SortReport r =
         quicksort(rv.first(w), [](double a, double b) { return a < b; }, origin);

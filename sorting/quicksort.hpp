@@ -220,21 +220,24 @@ SortReport quicksort(std::span<T> a, Before before, std::int64_t origin = 1, boo
     // Straight insertion over the whole section. After partitioning, the smallest
     // element lies among the first 16, so beyond them the shift needs no bound check.
     const std::ptrdiff_t guarded = std::min<std::ptrdiff_t>(n, small_part + 1);
-    for (std::ptrdiff_t k = 1; k < n; ++k) {
+    for (std::ptrdiff_t k = 1; k < guarded; ++k) {
         if (!before(v[k], v[k - 1])) continue;
         T x = std::move(v[k]);
         std::ptrdiff_t m = k;
-        if (k < guarded) {
-            do {
-                v[m] = std::move(v[m - 1]);
-                --m;
-            } while (m > 0 && before(x, v[m - 1]));
-        } else {
-            do {
-                v[m] = std::move(v[m - 1]);
-                --m;
-            } while (before(x, v[m - 1]));
-        }
+        do {
+            v[m] = std::move(v[m - 1]);
+            --m;
+        } while (m > 0 && before(x, v[m - 1]));
+        v[m] = std::move(x);
+    }
+    for (std::ptrdiff_t k = guarded; k < n; ++k) {
+        if (!before(v[k], v[k - 1])) continue;
+        T x = std::move(v[k]);
+        std::ptrdiff_t m = k;
+        do {
+            v[m] = std::move(v[m - 1]);
+            --m;
+        } while (before(x, v[m - 1]));
         v[m] = std::move(x);
     }
     return report;
