@@ -59,17 +59,19 @@ private:
 };
 
 // Element visits allowed to the partitioning of n elements before the remaining
-// sections are handed to heapsort: 4 n ceil(log2 n) + 64 n. Random, sorted, reversed,
-// organ-pipe, sawtooth and all-equal inputs need at most 1.3 n log2 n, less than a
-// fifth of the limit (test/quicksort_test.cpp measures every n up to 2500 and sizes up
-// to 10^6 and prints the margin); the 64 n term covers small n, where log2 n says
-// little. McIlroy's adversary needs about n^2/4 visits: it reaches the limit for n above
-// a few hundred, and then costs the limit plus one heapsort.
+// sections are handed to heapsort: 2 n ceil(log2 n). Random, sorted, reversed,
+// organ-pipe, sawtooth and all-equal inputs need at most 1.3 n ceil(log2 n), two thirds
+// of the limit (organ-pipe inputs come closest, their need growing by about 0.08 per
+// decade of n; test/quicksort_test.cpp measures every n up to 2500 and sizes up to 10^6
+// and prints the margin). Sections of 15 or fewer are never partitioned, so small n
+// need no extra allowance. McIlroy's adversary needs about n^2/4 visits: it reaches the
+// limit for n above about 60, and then costs the limit plus one heapsort, less than
+// three times the sort of random data of the same size (bench/sorting.cpp).
 inline std::uint64_t work_limit(std::size_t n) noexcept
 {
     const std::uint64_t m = n;
     const std::uint64_t lg = m > 1 ? std::bit_width(m - 1) : 1;   // ceil(log2 n)
-    return 4 * m * lg + 64 * m;
+    return 2 * m * lg;
 }
 
 // What a sort did: the element visits of its partitioning and whether the work bound
