@@ -176,6 +176,15 @@ void merge_sort(std::span<T> a, Before&& before, std::vector<T>& buf)
     if (from != a.data()) std::copy(from, from + n, a.data());
 }
 
+// Turns an order (irank[r] = the offset of the item of rank r) into ranks from m1,
+// in place, through buf.
+inline void order_to_ranks(Zor_Integer* irank, std::size_t n, Zor_Integer m1, std::vector<Zor_Integer>& buf)
+{
+    buf.assign(irank, irank + n);
+    for (std::size_t r = 0; r < n; ++r)
+        irank[buf[r]] = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(r));
+}
+
 // Stable ranking of the n items at offsets 0..n-1 under before, into irank[0..n-1]
 // (ranks from m1). The caller's IRANK holds the offsets while they are sorted, so the
 // only scratch space is one buffer of n integers.
@@ -185,9 +194,7 @@ void rank_offsets(std::size_t n, Zor_Integer m1, Zor_Integer* irank, Before&& be
     for (std::size_t i = 0; i < n; ++i) irank[i] = static_cast<Zor_Integer>(i);
     std::vector<Zor_Integer> buf;
     merge_sort(std::span<Zor_Integer>(irank, n), before, buf);
-    buf.assign(irank, irank + n);
-    for (std::size_t r = 0; r < n; ++r)
-        irank[buf[r]] = static_cast<Zor_Integer>(m1 + static_cast<std::int64_t>(r));
+    order_to_ranks(irank, n, m1, buf);
 }
 
 // Stable ranking of n items by a three-way comparison of their offsets.
