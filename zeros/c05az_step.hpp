@@ -53,6 +53,7 @@ struct BracketState {
     double u = 0;                         // the best end (smaller |f|), on exit
     Phase phase = Phase::secant;
     std::int32_t evaluations = 0;         // inside the bracket, since begin()
+    std::int32_t flat = 0;                // equal values in a row at the end last replaced
 };
 
 // Begins a search over [x, y] (either order, x != y) with both end values known and of
