@@ -313,6 +313,7 @@ StepStatus advance(BracketState& s, double fc, double tolx, ErrorTest ir) noexce
     }
     // The new point replaces the end whose value is of its class; the replaced end
     // becomes d, the point just outside the bracket used by the interpolations.
+    const bool a_was_new = s.d < s.a;   // false before the first step (d is NaN)
     if (positive(fc) != positive(s.fa)) {
         s.d = s.b, s.fd = s.fb;
         s.b = s.c, s.fb = fc;
@@ -320,7 +321,11 @@ StepStatus advance(BracketState& s, double fc, double tolx, ErrorTest ir) noexce
         s.d = s.a, s.fd = s.fa;
         s.a = s.c, s.fa = fc;
     }
-    s.flat = (fc == s.fd) ? std::min(s.flat + 1, max_flat) : 0;
+    // Equal values in a row at one end; a flat stretch at the other end starts anew.
+    if (!(fc == s.fd))
+        s.flat = 0;
+    else
+        s.flat = (a_was_new == (s.d < s.a)) ? std::min(s.flat + 1, max_flat) : 1;
     double width = 0;
     const StepStatus st = test(s, tolx, ir, width);
     if (st != StepStatus::evaluate) return st;
