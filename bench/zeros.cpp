@@ -2,7 +2,16 @@
 // GSL's Brent solver (gsl_root_fsolver_brent), Boost.Math's toms748_solve and SciPy's
 // brentq: function evaluations per problem (printed once, before the timings) and time
 // per problem family. Every solver stops at a bracket of width 2e-12 (SciPy: xtol 2e-12
-// and its default rtol of 4 machine epsilons).
+// and its default rtol of 4 machine epsilons) and every evaluation counts, the two ends
+// included (SciPy's function_calls counts them too, and none of the solvers evaluates a
+// point after the bracket has met the test).
+//
+// Measured with the Alefeld-Potra-Shi step, Chandrupatla's test, and the Illinois step
+// across flat stretches (zeros/c05az_step.cpp), evaluations in all 154 problems:
+// C05AZF 2181, C05AYF 2180, GSL Brent 2723, Boost toms748 2635, SciPy brentq 2662
+// (C05AZF / brentq = 0.819); at tolx 1e-15, IR = 0: 2202 against brentq's 2696.
+// By family (C05AZF / brentq): 4: 199/226, 14: 627/680, 15: 589/1009 ahead;
+// 9, 10, 11: 62/56, 58/50, 53/43 behind; the others within two evaluations.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
