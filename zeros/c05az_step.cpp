@@ -245,10 +245,22 @@ void choose(BracketState& s, double width)
     case Phase::cubic2:
         c = cubic_or_quadratic(s, 3);
         break;
-    case Phase::double_secant: {
+    case Phase::third: {
+        // Departure from the paper, whose third point is the double-length secant step
+        // from the better end u: a third interpolation point, carried 1% further from u.
+        // Close to a simple zero its error is far below 1% of its distance from u, so
+        // it lands just beyond the zero and, with the push from the ends, the next point
+        // closes the bracket; the double-length step instead leaves a bracket about as
+        // wide as the step for the next iteration to shrink. When it fails to cross, the
+        // iteration does not halve the bracket and ends with the bisection. On the
+        // Alefeld-Potra-Shi problems: 2116 evaluations instead of 2181, fewer or as many
+        // in every family; any factor from 1 to 1.03 gives 2100 to 2125.
         const bool a_best = a_is_better(s);
         const double u = a_best ? s.a : s.b, fu = a_best ? s.fa : s.fb;
-        if (finite(s.fa) && finite(s.fb) && s.fa != s.fb)
+        const double ci = cubic_or_quadratic(s, 3);
+        if (!std::isnan(ci))
+            c = u + (ci - u) * 1.01;
+        else if (finite(s.fa) && finite(s.fb) && s.fa != s.fb)
             c = u - 2.0 * (fu / (s.fb - s.fa)) * (s.b - s.a);
         if (!(std::fabs(c - u) <= 0.5 * (s.b - s.a))) c = NAN;
         s.e = s.d;
@@ -270,16 +282,16 @@ Phase next_phase(const BracketState& s)
     case Phase::quadratic: return Phase::cubic1;
     case Phase::cubic1: return Phase::cubic2;
     case Phase::cubic2: {
-        // Departure from the paper: the double-length secant step is taken only when
-        // the last point reduced |f| at the end it replaced; otherwise f is not yet near
+        // Departure from the paper: the third point is taken only when the last point
+        // reduced |f| at the end it replaced; otherwise f is not yet near
         // its zero and the step would hug that end, so the iteration bisects at once.
         // An iteration that has already halved the bracket needs no bisection (the flat
         // steps below often do so with their first two points).
         const double fnew = (s.d < s.a) ? s.fa : s.fb;
-        if (std::fabs(fnew) < std::fabs(s.fd)) return Phase::double_secant;
+        if (std::fabs(fnew) < std::fabs(s.fd)) return Phase::third;
         return (s.b - s.a < mu * (s.b0 - s.a0)) ? Phase::cubic1 : Phase::bisect;
     }
-    case Phase::double_secant:
+    case Phase::third:
         return (s.b - s.a < mu * (s.b0 - s.a0)) ? Phase::cubic1 : Phase::bisect;
     case Phase::bisect: break;
     }

@@ -38,7 +38,8 @@ enum class Phase : int {
     quadratic = 2,     // second step: two Newton steps on the quadratic through a, b, d
     cubic1 = 3,        // iteration, first point: inverse cubic (or quadratic, 2 steps)
     cubic2 = 4,        // iteration, second point: inverse cubic (or quadratic, 3 steps)
-    double_secant = 5, // iteration, third point: double-length secant from the better end
+    third = 5,         // iteration, third point: interpolation carried 1% beyond (or the
+                       // double-length secant from the better end)
     bisect = 6,        // iteration, fourth point: the midpoint, when the width did not halve
 };
 

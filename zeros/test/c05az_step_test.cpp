@@ -90,9 +90,11 @@ TEST(BracketStep, AlefeldPotraShiZerosAgainstMpmath)
 
 // The evaluation count on the 154 problems at width 2e-12 (IR = 2), against Brent's method
 // as SciPy 1.10 brentq implements it (xtol 2e-12, rtol 4 machine epsilons; per family,
-// from tools/brentq_counts.py): in all at least 13% fewer, and no family much worse.
-// The step needed 2181 when this test was written; a change that costs more than a few
-// evaluations a family shows here before it shows in the benchmark.
+// from tools/brentq_counts.py): in all at least 15% fewer, and no family much worse.
+// The step needed 2116 when this test was written (the margin allows for other math
+// libraries: the 40 problems of family 14 can move together by one evaluation each); a
+// change that costs more than a few evaluations a family shows here before it shows in
+// the benchmark.
 TEST(BracketStep, AlefeldPotraShiEvaluationsStayWellBelowBrent)
 {
     constexpr int brentq_by_family[16] = {0,  9,  124, 56, 226, 9,   115, 26,
@@ -109,7 +111,7 @@ TEST(BracketStep, AlefeldPotraShiEvaluationsStayWellBelowBrent)
         SCOPED_TRACE(k);
         EXPECT_LE(by_family[k], brentq_by_family[k] + brentq_by_family[k] / 4 + 2);
     }
-    EXPECT_LE(total, brentq_total * 87 / 100);   // 2315
+    EXPECT_LE(total, brentq_total * 85 / 100);   // 2262
     std::printf("2e-12, IR = 2: %d evaluations against brentq's %d\n", total, brentq_total);
 }
 
