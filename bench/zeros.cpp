@@ -2,9 +2,10 @@
 // GSL's Brent solver (gsl_root_fsolver_brent), Boost.Math's toms748_solve and SciPy's
 // brentq: function evaluations per problem (printed once, before the timings) and time
 // per problem family. Every solver stops at a bracket of width 2e-12 (SciPy: xtol 2e-12
-// and its default rtol of 4 machine epsilons) and every evaluation counts, the two ends
-// included (SciPy's function_calls counts them too, and none of the solvers evaluates a
-// point after the bracket has met the test).
+// and its default rtol of 4 machine epsilons, so that it stops once the bracket is
+// narrower than 2e-12 + 4 eps |x|, a shade looser than ZOR's IR = 2 test) and every
+// evaluation counts, the two ends included (SciPy's function_calls counts them too;
+// neither brentq nor ZOR evaluates a point after the bracket has met its test).
 //
 // Measured with the Alefeld-Potra-Shi step, Chandrupatla's test, a third interpolation
 // point carried 1% beyond the zero in place of the double-length secant step, and the
