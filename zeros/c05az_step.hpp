@@ -6,8 +6,9 @@
 // roots of nonlinear equations", Math. Comp. 61 (1993) 733-744 (inverse cubic
 // interpolation, Newton steps on the quadratic through three points, a double-length
 // secant step, and a bisection whenever an iteration failed to halve the bracket), with
-// an Illinois step (Dowell and Jarratt, BIT 11 (1971) 168-174) across stretches where f
-// is constant. Every trial point lies strictly inside the bracket, so the bracket
+// a third interpolation point carried just beyond the zero in place of the
+// double-length step, and an Illinois step (Dowell and Jarratt, BIT 11 (1971) 168-174)
+// across stretches where f is constant. Every trial point lies strictly inside the bracket, so the bracket
 // shrinks with every evaluation; an iteration takes at most four evaluations and at
 // least halves it, so the search needs at most four times the evaluations of bisection
 // plus three.
