@@ -5,10 +5,13 @@
 // functions", ACM TOMS 21 (1995) 327-344, their algorithm 4.2 of "On enclosing simple
 // roots of nonlinear equations", Math. Comp. 61 (1993) 733-744 (inverse cubic
 // interpolation, Newton steps on the quadratic through three points, a double-length
-// secant step, and a bisection whenever an iteration failed to halve the bracket).
-// Every trial point lies strictly inside the bracket, so the bracket shrinks with every
-// evaluation; an iteration takes at most four evaluations and at least halves it, so
-// the search needs at most four times the evaluations of bisection plus three.
+// secant step, and a bisection whenever an iteration failed to halve the bracket), with
+// a third interpolation point carried just beyond the zero in place of the
+// double-length step, and an Illinois step (Dowell and Jarratt, BIT 11 (1971) 168-174)
+// across stretches where f is constant. Every trial point lies strictly inside the bracket, so the bracket
+// shrinks with every evaluation; an iteration takes at most four evaluations and at
+// least halves it, so the search needs at most four times the evaluations of bisection
+// plus three.
 #pragma once
 
 #include <cstdint>
@@ -36,7 +39,8 @@ enum class Phase : int {
     quadratic = 2,     // second step: two Newton steps on the quadratic through a, b, d
     cubic1 = 3,        // iteration, first point: inverse cubic (or quadratic, 2 steps)
     cubic2 = 4,        // iteration, second point: inverse cubic (or quadratic, 3 steps)
-    double_secant = 5, // iteration, third point: double-length secant from the better end
+    third = 5,         // iteration, third point: interpolation carried 1% beyond (or the
+                       // double-length secant from the better end)
     bisect = 6,        // iteration, fourth point: the midpoint, when the width did not halve
 };
 
@@ -53,6 +57,7 @@ struct BracketState {
     double u = 0;                         // the best end (smaller |f|), on exit
     Phase phase = Phase::secant;
     std::int32_t evaluations = 0;         // inside the bracket, since begin()
+    std::int32_t flat = 0;                // equal values in a row at the end last replaced
 };
 
 // Begins a search over [x, y] (either order, x != y) with both end values known and of

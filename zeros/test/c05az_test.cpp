@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "aps_problems.hpp"
+#include "c05az_step.hpp"
 #include "frame/frame.hpp"
 #include "zeros_test_util.hpp"
 #include "zor.h"
@@ -162,6 +164,33 @@ TEST(C05AZF, PoleAndTooSmallTolerance)
               " ** being solved. However, the values x and y returned may well\n"
               " ** be good approximations to the zero.\n"
               " ** tolx = 1e-20\n" + soft_tail("c05azf", 5));
+}
+
+// The state packed into C between calls carries the whole step (the flat-stretch count
+// included): C05AZF asks for exactly the points that the step chooses when it runs
+// uninterrupted, on every Alefeld-Potra-Shi problem.
+TEST(C05AZF, PackedStateResumesTheStepExactly)
+{
+    namespace zz = zor::zeros;
+    for (const auto& p : zz::aps::problems) {
+        SCOPED_TRACE(p.id);
+        const double tolx = 2e-12;
+        std::vector<double> direct;
+        zz::BracketState s;
+        zz::StepStatus st = zz::begin(s, p.lo, zz::aps::f(p, p.lo), p.hi, zz::aps::f(p, p.hi),
+                                      tolx, zz::ErrorTest::absolute);
+        while (st == zz::StepStatus::evaluate && direct.size() < 1000) {
+            direct.push_back(s.c);
+            st = zz::advance(s, zz::aps::f(p, s.c), tolx, zz::ErrorTest::absolute);
+        }
+        std::vector<double> asked;
+        const RcRun r = solve([&](double x) { asked.push_back(x); return zz::aps::f(p, x); },
+                              p.lo, p.hi, tolx, 2);
+        ASSERT_EQ(r.ind, 0);
+        ASSERT_GE(asked.size(), 2u);
+        EXPECT_EQ(std::vector<double>(asked.begin() + 2, asked.end()), direct);
+        EXPECT_EQ(r.x, s.u);
+    }
 }
 
 TEST(C05AZF, AlteredStateIsDetected)
