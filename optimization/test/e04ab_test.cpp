@@ -297,6 +297,16 @@ TEST(E04ABA, BadFunctionValuesEndInADefinedWay)
     }
 }
 
+TEST(E04ABF, NullFunctIsAnUnexpectedError)
+{
+    ErrorUnitCapture cap;
+    double e1 = 0, e2 = 0, a = 0, b = 1, x = 0, f = 0;
+    Zor_Integer maxcal = 10, ifail = -1;
+    E04ABF(nullptr, &e1, &e2, &a, &b, &maxcal, &x, &f, &ifail);
+    EXPECT_EQ(ifail, -99);
+    EXPECT_EQ(cap.text().substr(0, 22), " ** Unexpected error (");
+}
+
 TEST(E04ABA, HugeMaxcalIsOnlyALimit)
 {
     const Call got = call_e04aba(1, -3.0, 4.0, 2147483647);
