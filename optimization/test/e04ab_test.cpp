@@ -98,6 +98,39 @@ TEST(E04ABA, StartUpEvaluatesThreePointsAsDocumented)
     }
 }
 
+// Points worked out by hand from the documented rules, on straight lines (where every
+// parabola is rejected, q = 0) over [0, 10] with E1 = E2 = 1e-9.
+TEST(E04ABA, TrajectoryFollowsTheDocumentedRules)
+{
+    // f = -x: x2 = 6 is best; the third point one step of 2 further; then expansion
+    // min(-4a, s_max) = s_max = 2 reaches B = 10 and s_max shrinks to (2 - tol)/(1 + E1),
+    // so that the next step (s_max shifted by -2, about -tol(10)) goes back by about tol,
+    // finds a worse point and closes the bracket [10 - tol, 10 + tol(10)].
+    Call got = call_e04aba(3, 0.0, 10.0, 100, 1e-9, 1e-9);
+    EXPECT_EQ(got.ifail, 0);
+    ASSERT_EQ(got.points.size(), 5u);
+    EXPECT_EQ(got.points[0], 4.0);
+    EXPECT_EQ(got.points[1], 6.0);
+    EXPECT_EQ(got.points[2], 8.0);
+    EXPECT_EQ(got.points[3], 10.0);
+    const double tol10 = 1e-9 * 10.0 + 1e-9;
+    EXPECT_NEAR(got.points[4], 10.0 - tol10, 0.1 * tol10);
+    EXPECT_EQ(got.x, 10.0);
+    EXPECT_EQ(got.a, got.points[4]);
+    EXPECT_NEAR(got.b, 10.0 + tol10, 1e-14);
+
+    // f = x: x1 = 4 is best, the third point at 2; then the fall-back step with the
+    // ends exchanged (w > 0) and r = 1 halves the distance to A each time.
+    got = call_e04aba(4, 0.0, 10.0, 100, 1e-9, 1e-9);
+    EXPECT_EQ(got.ifail, 0);
+    ASSERT_GE(got.points.size(), 9u);
+    EXPECT_EQ(got.points[0], 4.0);
+    EXPECT_EQ(got.points[1], 6.0);
+    EXPECT_EQ(got.points[2], 2.0);
+    for (int k = 3; k < 9; ++k) EXPECT_NEAR(got.points[k], std::ldexp(1.0, 3 - k), 1e-15);
+    EXPECT_GE(got.a, 0.0);
+}
+
 TEST(E04ABA, CallerSeesReplacedTolerances)
 {
     struct Case {
