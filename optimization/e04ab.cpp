@@ -120,6 +120,11 @@ double next_step(Search& s, double e1)
         if ((u - s.a) * 0.5 < tol || (s.b - u) * 0.5 < tol) step = m <= 0.0 ? -tol : tol;
     } else {
         s.e = m <= 0.0 ? s.a : s.b;
+        // Once the best point sits at the step bound and the bound has been pulled back
+        // behind the lower end (the best point is B itself and a worse point lies to
+        // its left), an expansion step would leave the bracket: the minimum is
+        // bracketed by [a, B + tol(B)], and the search goes on as with a positive flag.
+        if (s.direction <= 0 && s.smax <= s.a) s.direction = 1;
         if (s.direction > 0) {
             // Step into the side q of the bracket, by less the larger the other side p:
             // r = |p|/|q|; at r = 1 the middle of the side q, as r grows towards
@@ -132,9 +137,19 @@ double next_step(Search& s, double e1)
             step = std::min(-4.0 * s.a, s.smax);
         }
     }
+    // The step bound is the farthest position to the right that may be evaluated: B at
+    // first, pulled back by tol each time a step reaches it. Once the best point has
+    // reached it, the bound lies at or behind the best point and no step may go right;
+    // clamping every step to the bound would then walk the search leftwards, out of the
+    // bracket, by about tol per call, so a step to the right becomes a step of tol to
+    // the left, which closes the bracket around a minimum at B.
     if (step >= s.smax) {
-        step = s.smax;
-        s.smax = (s.smax - tol) / (1.0 + e1);
+        if (s.smax > 0.0) {
+            step = s.smax;
+            s.smax = (s.smax - tol) / (1.0 + e1);
+        } else if (step > 0.0) {
+            step = -tol;
+        }
     }
     if (!(std::fabs(step) >= tol)) step = step > 0.0 ? tol : -tol;
     s.d = step;

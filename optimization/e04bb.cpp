@@ -126,9 +126,15 @@ double next_step(Search& s, double e1)
         s.e = end;
         step = 0.5 * end;
     }
+    // The step bound of E04ABF (e04ab.cpp): no step goes right of B, pulled back by tol
+    // each time it is reached; at the bound the step goes tol to the left.
     if (step >= s.smax) {
-        step = s.smax;
-        s.smax = (s.smax - tol) / (1.0 + e1);
+        if (s.smax > 0.0) {
+            step = s.smax;
+            s.smax = (s.smax - tol) / (1.0 + e1);
+        } else if (step > 0.0) {
+            step = -tol;
+        }
     }
     if (!(std::fabs(step) >= tol)) step = step > 0.0 ? tol : step < 0.0 ? -tol : side * tol;
     s.d = step;

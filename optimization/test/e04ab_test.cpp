@@ -295,6 +295,15 @@ TEST(E04ABA, EndsOfTheIntervalAreTreatedAsDocumented)
     EXPECT_EQ(got.ifail, 0);
     EXPECT_NEAR(got.x, 1.0, 3.0 * 2.0 * sqrt_eps);
     EXPECT_LE(got.b, 1.0 + (sqrt_eps * 1.0 + sqrt_eps));
+    // Minimum at B far from the start-up points, where tol(B) is much smaller than tol
+    // at the third point: once the best point is B, the search closes the bracket from
+    // the left instead of creeping away from B by tol per call.
+    got = call_e04aba(3, -1000.0, 0.001, 5000);
+    EXPECT_EQ(got.ifail, 0);
+    EXPECT_LT(got.maxcal, 15);
+    EXPECT_NEAR(got.x, 0.001, 3.0 * (sqrt_eps * 0.001 + sqrt_eps));
+    EXPECT_LE(got.a, got.x);
+    EXPECT_GE(got.b, got.x);
     // Minimum at A: the lower end is never widened.
     got = call_e04aba(4, 0.0, 1.0);
     EXPECT_EQ(got.ifail, 0);

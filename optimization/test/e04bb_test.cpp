@@ -272,6 +272,16 @@ TEST(E04BBA, EndsAndBadValuesEndInADefinedWay)
     }
 }
 
+TEST(E04BBA, MinimumAtAFarUpperEnd)
+{
+    const Call got = call_e04bba(5, -1000.0, 0.001, 5000);
+    EXPECT_EQ(got.ifail, 0);
+    EXPECT_LT(got.maxcal, 45);   // the derivative says nothing but "go right": bisection
+    EXPECT_NEAR(got.x, 0.001, 3.0 * (sqrt_eps * 0.001 + sqrt_eps));
+    EXPECT_LE(got.a, got.x);
+    EXPECT_GE(got.b, got.x);
+}
+
 TEST(E04BBFDeathTest, IfailZeroStopsTheProgram)
 {
     EXPECT_EXIT(call_e04bba(1, 1.0, 1.0, 5, 0.0, 0.0, 0),
