@@ -83,6 +83,10 @@ void take_point(Search& s, double u, double fu, double gu, double e1, double e2)
     s.a -= u;
     s.b -= u;
     s.smax -= u;
+    // A better point outside the bracket (possible only for a function with several
+    // minima) would leave an end on the wrong side: keep a <= 0 <= b.
+    s.a = std::min(s.a, 0.0);
+    s.b = std::max(s.b, 0.0);
     s.tol = e1 * std::fabs(s.xabs) + e2;
     cut_by_slope(s);
 }
