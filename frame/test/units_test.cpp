@@ -11,6 +11,7 @@
 
 #include "frame/frame.hpp"
 #include "frame_test_util.hpp"
+#include "tests/portable.hpp"
 #include "zor.h"
 
 namespace {
@@ -306,7 +307,7 @@ void traced_calls()
 TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");   // a fresh process reads ZOR_TRACE anew
-    setenv("ZOR_TRACE", "1", 1);
+    zor::test::set_env("ZOR_TRACE", "1");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0),
                 "^ x04aafv en_data: iflag = 0, nerr = 0\n"
                 " x04aafv ex_data: iflag = 0, nerr = 6\n"
@@ -325,9 +326,9 @@ TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
                 " x02bjfv ex_data: idigs = 53\n"
                 " x02bkfv ex_data: minexp = -1021\n"
                 " x02blfv ex_data: maxexp = 1024\n$");
-    setenv("ZOR_TRACE", "0", 1);
+    zor::test::set_env("ZOR_TRACE", "0");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0), "^$");
-    unsetenv("ZOR_TRACE");
+    zor::test::unset_env("ZOR_TRACE");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0), "^$");
 }
 
