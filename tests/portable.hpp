@@ -1,7 +1,8 @@
 // tests/portable.hpp — the few operating-system services the tests need, written once for
 // POSIX systems and once for Windows (the mingw-w64 build run under Wine, and MSVC), so
 // that every test runs on both: environment variables, process ids, scratch file names,
-// and pointing the standard descriptors at a file.
+// pointing the standard descriptors at a file, and death-test patterns that mean the
+// same to both of GoogleTest's regular expression dialects.
 #pragma once
 
 #include <atomic>
@@ -74,6 +75,40 @@ inline bool redirect_stdout_and_stderr(const std::string& path)
     const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
     return fd >= 0 && dup2(fd, 1) == 1 && dup2(fd, 2) == 2;
 #endif
+}
+
+// Runs start_capture, which points descriptor fd at a file (GoogleTest's CaptureStdout or
+// CaptureStderr), and gives fd back the text or binary mode it had. On Windows the Fortran
+// runtime puts the standard descriptors into binary mode when it starts and ends its
+// records with CR LF itself; the capture file is opened in text mode, which would add a
+// second CR to every record. With the mode kept, the capture receives what the program's
+// own output would; it is read back as text, CR LF as LF.
+template <class StartCapture>
+void capture_keeping_mode(int fd, StartCapture&& start_capture)
+{
+#ifdef _WIN32
+    const int mode = _setmode(fd, _O_BINARY);
+    _setmode(fd, mode);
+    start_capture();
+    _setmode(fd, mode);
+#else
+    (void)fd;
+    start_capture();
+#endif
+}
+
+// A death-test pattern matching `text` literally. GoogleTest reads patterns as POSIX
+// extended regular expressions on POSIX systems and in its own simple dialect on Windows,
+// which has no bracket expressions, groups or alternatives; a backslash before a
+// punctuation character means that character in both.
+inline std::string regex_quote(std::string_view text)
+{
+    std::string out;
+    for (char c : text) {
+        if (std::string_view("\\^$.|?*+()[]{}").find(c) != std::string_view::npos) out += '\\';
+        out += c;
+    }
+    return out;
 }
 
 }  // namespace zor::test

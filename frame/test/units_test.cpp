@@ -115,9 +115,11 @@ TEST(X04BAF, RecordsOnStandardOutput)
 
 std::string temp_path(const char* name) { return testing::TempDir() + name; }
 
+// Read as text: on Windows the Fortran runtime ends its records with CR LF, as text files
+// there do, and a text stream reads them as LF.
 std::string read_file(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(path);
     std::ostringstream s;
     s << in.rdbuf();
     return s.str();
