@@ -1,13 +1,17 @@
 ! examples/x04acf_example.f90 — files on units (X04ACF, X04ADF), from Fortran: write a
 ! file, append to it, read it back; then an error exit with IFAIL = -1 on entry (a bad
 ! MODE), which prints its message on the error unit and returns.
+! A unit connected by X04ACF is a unit of the library's Fortran runtime: for the library's
+! own records and reads. The program reads the file back through a unit of its own, since
+! the two runtimes are one only where the runtime is a shared library (Linux); zor.dll
+! carries its own.
 program x04acf_example
   use zor
   implicit none
   integer, parameter :: nout = 21
   character(len=*), parameter :: file = 'x04acf_example.txt'
   character(len=80) :: line
-  integer :: ifail, ios
+  integer :: ifail, ios, in
 
   ifail = 0
   call x04acf(nout, file, 1, ifail)              ! mode 1: write, replacing the file
@@ -17,13 +21,16 @@ program x04acf_example
   call x04baf(nout, 'second record')
   call x04adf(nout, ifail)
 
-  call x04acf(nout, file, 0, ifail)              ! mode 0: read
+  call x04acf(nout, file, 0, ifail)              ! mode 0: read (the file must exist)
+  call x04adf(nout, ifail)
+
+  open (newunit=in, file=file, status='old', action='read')
   do
-    read (nout, '(A)', iostat=ios) line
+    read (in, '(A)', iostat=ios) line
     if (ios /= 0) exit
     write (*, '(A, A)') 'read back: ', trim(line)
   end do
-  call x04adf(nout, ifail)
+  close (in)
   write (*, '(A, I0)') 'IFAIL after the file calls: ', ifail
 
   ! MODE = 3 is not allowed: with IFAIL = -1 the message is printed and control returns.

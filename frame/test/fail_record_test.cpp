@@ -3,9 +3,6 @@
 // the c exit's mapping of a kernel's outcome onto a message table.
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -13,6 +10,7 @@
 
 #include "frame/frame.hpp"
 #include "frame_test_util.hpp"
+#include "tests/portable.hpp"
 
 namespace {
 
@@ -254,9 +252,7 @@ TEST(CReportDeathTest, NoRecordWarningAlsoEndsTheProcess)
 // Standard output and standard error in one file: the caller's buffered line first.
 void printf_then_fail(const std::string& path)
 {
-    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    dup2(fd, 1);
-    dup2(fd, 2);
+    if (!zor::test::redirect_stdout_and_stderr(path)) std::exit(2);
     std::printf("the caller's line\n");
     zor::c_report("NE_INT:\n  n = 0.", NE_INT, "x00aac", nullptr);
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "frame/frame.hpp"
+#include "tests/portable.hpp"
 #include "zor_x04.h"
 
 namespace zor::test {
@@ -33,7 +34,7 @@ template <class Body>
 std::vector<std::string> stdout_lines(Body&& body)
 {
     std::fflush(stdout);
-    testing::internal::CaptureStdout();
+    capture_keeping_mode(1, [] { testing::internal::CaptureStdout(); });
     body();
     std::fflush(stdout);
     return lines_of(testing::internal::GetCapturedStdout());
@@ -42,7 +43,7 @@ std::vector<std::string> stdout_lines(Body&& body)
 template <class Body>
 std::string stderr_text(Body&& body)
 {
-    testing::internal::CaptureStderr();
+    capture_keeping_mode(2, [] { testing::internal::CaptureStderr(); });
     body();
     return testing::internal::GetCapturedStderr();
 }

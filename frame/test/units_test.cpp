@@ -11,6 +11,7 @@
 
 #include "frame/frame.hpp"
 #include "frame_test_util.hpp"
+#include "tests/portable.hpp"
 #include "zor.h"
 
 namespace {
@@ -114,9 +115,11 @@ TEST(X04BAF, RecordsOnStandardOutput)
 
 std::string temp_path(const char* name) { return testing::TempDir() + name; }
 
+// Read as text: on Windows the Fortran runtime ends its records with CR LF, as text files
+// there do, and a text stream reads them as LF.
 std::string read_file(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(path);
     std::ostringstream s;
     s << in.rdbuf();
     return s.str();
@@ -306,7 +309,7 @@ void traced_calls()
 TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");   // a fresh process reads ZOR_TRACE anew
-    setenv("ZOR_TRACE", "1", 1);
+    zor::test::set_env("ZOR_TRACE", "1");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0),
                 "^ x04aafv en_data: iflag = 0, nerr = 0\n"
                 " x04aafv ex_data: iflag = 0, nerr = 6\n"
@@ -325,9 +328,9 @@ TEST(TraceDeathTest, TraceOnRecordsLabelsHeadingsAndValues)
                 " x02bjfv ex_data: idigs = 53\n"
                 " x02bkfv ex_data: minexp = -1021\n"
                 " x02blfv ex_data: maxexp = 1024\n$");
-    setenv("ZOR_TRACE", "0", 1);
+    zor::test::set_env("ZOR_TRACE", "0");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0), "^$");
-    unsetenv("ZOR_TRACE");
+    zor::test::unset_env("ZOR_TRACE");
     EXPECT_EXIT(traced_calls(), testing::ExitedWithCode(0), "^$");
 }
 

@@ -14,11 +14,11 @@
 #include <numeric>
 #include <random>
 #include <sstream>
-#include <unistd.h>
 #include <string>
 #include <vector>
 
 #include "frame/frame.hpp"
+#include "tests/portable.hpp"
 #include "zor_m01.h"
 #include "zor_x04.h"
 
@@ -42,11 +42,10 @@ Outcome outcome(Zor_Integer err, const char* msgbuf)
 // Everything an F routine prints to the error unit during call(), line by line.
 std::vector<std::string> f_output(const std::function<void()>& call)
 {
-    char path[] = "/tmp/m01_test_XXXXXX";
-    const int fd = mkstemp(path);
-    if (fd >= 0) close(fd);
+    const std::string file = zor::test::temp_file("m01_test");
+    const char* path = file.c_str();
     Zor_Integer unit = 71, mode = 1, ifail = 1, get = 0, set = 1, old = 0;
-    X04ACF(&unit, path, &mode, &ifail, std::strlen(path));
+    X04ACF(&unit, path, &mode, &ifail, file.size());
     X04AAF(&get, &old);
     X04AAF(&set, &unit);
     call();

@@ -27,11 +27,11 @@ using zor::sorting::SortReport;
 // positions counted from 1 (rv[0] unused), "a > b" as gt(a, b), a growing stack.
 // Returns the number of randomised sections, so that tests can show they ran.
 template <class V, class Gt>
-int reference_sort(V& rv, long m1, long m2, char order, Gt gt)
+int reference_sort(V& rv, std::int64_t m1, std::int64_t m2, char order, Gt gt)
 {
     using T = std::remove_reference_t<decltype(rv[m1])>;
     int randomised = 0;
-    long x = 15223, y = 17795, z = 28707;
+    std::int64_t x = 15223, y = 17795, z = 28707;
     auto draw = [&] {
         x = 171 * (x % 177) - 2 * (x / 177);
         if (x < 0) x += 30269;
@@ -42,25 +42,25 @@ int reference_sort(V& rv, long m1, long m2, char order, Gt gt)
         return std::fmod(x / 30269.0 + y / 30307.0 + z / 30323.0, 1.0);
     };
     if (m2 - m1 >= 15) {
-        std::vector<std::tuple<long, long, bool>> stack;
-        long lo = m1, hi = m2;
+        std::vector<std::tuple<std::int64_t, std::int64_t, bool>> stack;
+        std::int64_t lo = m1, hi = m2;
         bool mark = false;
         for (;;) {
             if (mark) {
                 ++randomised;
                 const double u = draw();
-                const long k = static_cast<long>(lo + u * (hi - lo));
+                const std::int64_t k = static_cast<std::int64_t>(lo + u * (hi - lo));
                 std::swap(rv[lo], rv[k]);
                 std::swap(rv[hi + lo - k], rv[hi]);
             }
-            const long mid = (lo + hi) / 2;
+            const std::int64_t mid = (lo + hi) / 2;
             if (gt(rv[lo], rv[hi])) std::swap(rv[lo], rv[hi]);
             if (gt(rv[lo], rv[mid]))
                 std::swap(rv[lo], rv[mid]);
             else if (gt(rv[mid], rv[hi]))
                 std::swap(rv[mid], rv[hi]);
             const T p = rv[mid];
-            long i = lo + 1, j = hi - 1;
+            std::int64_t i = lo + 1, j = hi - 1;
             for (;;) {
                 while (gt(p, rv[i])) ++i;
                 while (gt(rv[j], p)) --j;
@@ -72,7 +72,7 @@ int reference_sort(V& rv, long m1, long m2, char order, Gt gt)
                     break;
                 }
             }
-            const long nl = i - lo, nr = hi - j;
+            const std::int64_t nl = i - lo, nr = hi - j;
             bool go_on = false;
             if (nr <= nl) {
                 if (nl > 15) {
@@ -105,10 +105,10 @@ int reference_sort(V& rv, long m1, long m2, char order, Gt gt)
             stack.pop_back();
         }
     }
-    for (long k = m1 + 1; k <= m2; ++k) {
+    for (std::int64_t k = m1 + 1; k <= m2; ++k) {
         if (!gt(rv[k - 1], rv[k])) continue;
         const T v = rv[k];
-        long m = k - 1;
+        std::int64_t m = k - 1;
         while (m >= m1 && gt(rv[m], v)) {
             rv[m + 1] = rv[m];
             --m;
@@ -116,7 +116,7 @@ int reference_sort(V& rv, long m1, long m2, char order, Gt gt)
         rv[m + 1] = v;
     }
     if (order == 'D' || order == 'd')
-        for (long i = m1, j = m2; i < j; ++i, --j) std::swap(rv[i], rv[j]);
+        for (std::int64_t i = m1, j = m2; i < j; ++i, --j) std::swap(rv[i], rv[j]);
     return randomised;
 }
 
@@ -172,7 +172,7 @@ TEST(M01CAF, SignedZerosEndWhereTheMethodPutsThemBitForBit)
                 std::copy(body.begin(), body.end(), got.begin() + 4);
                 std::vector<double> want(n + 10, 7.25);   // from 1: want[1] is got[0]
                 std::copy(body.begin(), body.end(), want.begin() + 5);
-                randomised += reference_sort(want, 5, static_cast<long>(n) + 4, order,
+                randomised += reference_sort(want, 5, static_cast<std::int64_t>(n) + 4, order,
                                              [](double a, double b) { return a > b; });
                 want.erase(want.begin());
                 const Zor_Integer m1 = 5, m2 = static_cast<Zor_Integer>(n) + 4;
@@ -209,13 +209,13 @@ TEST(M01CAF, PositionsNearTheIntegerLimitSortAsTheMethodSays)
     // the reference computes from the same positions.
     struct Shifted {
         std::vector<double>& v;
-        long base;
-        double& operator[](long i) { return v[static_cast<std::size_t>(i - base)]; }
+        std::int64_t base;
+        double& operator[](std::int64_t i) { return v[static_cast<std::size_t>(i - base)]; }
     };
     std::mt19937_64 rng(99);
     for (Shape shape : {Shape::organ_pipe, Shape::sorted_tail, Shape::few_keys}) {
         const std::vector<double> body = make_input(shape, 2999, rng);
-        const long m1 = 2147483647L - 2998, m2 = 2147483647L;
+        const std::int64_t m1 = 2147483647 - 2998, m2 = 2147483647;
         std::vector<double> want = body;
         Shifted view{want, m1};
         const int randomised = reference_sort(view, m1, m2, 'A', [](double a, double b) { return a > b; });
@@ -277,14 +277,14 @@ TEST(QuicksortWorkBound, OrdinaryInputsOfEverySizeNeverReachIt)
 // yields an input on which the same sort does the quadratic work it was steered into.
 std::vector<double> adversary(std::size_t n, bool bounded)
 {
-    const long gas = static_cast<long>(n);
-    std::vector<long> val(n, gas);
-    long nsolid = 0, candidate = -1;
+    const std::int64_t gas = static_cast<std::int64_t>(n);
+    std::vector<std::int64_t> val(n, gas);
+    std::int64_t nsolid = 0, candidate = -1;
     std::vector<std::uint32_t> ids(n);
     for (std::size_t i = 0; i < n; ++i) ids[i] = static_cast<std::uint32_t>(i);
     auto before = [&](std::uint32_t x, std::uint32_t y) {
         if (val[x] == gas && val[y] == gas) {
-            if (static_cast<long>(x) == candidate)
+            if (static_cast<std::int64_t>(x) == candidate)
                 val[x] = nsolid++;
             else
                 val[y] = nsolid++;
@@ -329,7 +329,7 @@ TEST(QuicksortWorkBound, BelowTheLimitTheMovesAreTheMethodsOwn)
     for (double& x : v) x = x == 0 ? -0.0 : x;
     std::vector<double> want(v.size() + 1);
     std::copy(v.begin(), v.end(), want.begin() + 1);
-    reference_sort(want, 1, static_cast<long>(v.size()), 'A', [](double a, double b) { return a > b; });
+    reference_sort(want, 1, static_cast<std::int64_t>(v.size()), 'A', [](double a, double b) { return a > b; });
     want.erase(want.begin());
     const SortReport r = zor::sorting::sort_reals(v, false, 1);
     EXPECT_FALSE(r.fallback);
@@ -406,7 +406,7 @@ TEST(M01CCF, StringsWithEqualKeysEndWhereTheMethodPutsThem)
                        static_cast<char>('0' + (i % 40 < 20 ? i % 40 : 40 - i % 40) % 10) + "xy";
             std::vector<std::string> want(n + 1);
             std::copy(s.begin(), s.end(), want.begin() + 1);
-            reference_sort(want, 1, static_cast<long>(n), order, [](const std::string& a, const std::string& b) {
+            reference_sort(want, 1, static_cast<std::int64_t>(n), order, [](const std::string& a, const std::string& b) {
                 return a.compare(1, 2, b, 1, 2) > 0;
             });
             std::string packed;

@@ -3,12 +3,12 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <sstream>
 #include <string>
 
+#include "tests/portable.hpp"
 #include "zor.h"
 
 namespace zor::zeros::testing_util {
@@ -20,7 +20,7 @@ public:
     ErrorUnitCapture()
     {
         static int serial = 0;
-        path_ = ::testing::TempDir() + "zeros_err_" + std::to_string(getpid()) + "_" +
+        path_ = ::testing::TempDir() + "zeros_err_" + std::to_string(zor::test::process_id()) + "_" +
                 std::to_string(serial++) + ".txt";
         Zor_Integer mode = 1, ifail = -1, get = 0, set = 1;
         X04ACF(&unit_, path_.c_str(), &mode, &ifail, path_.size());
