@@ -95,7 +95,9 @@ TEST(M01CAFT, ChecksBoundsBeforeOrderInEveryCombination)
                 SCOPED_TRACE(testing::Message() << "m1 = " << m1 << ", m2 = " << m2 << ", order " << order);
                 EXPECT_EQ(got.code, want);
                 EXPECT_EQ(got.err, want == 0 ? 0 : want == 1004 ? 2 : 1);
-                if (want != 0) EXPECT_EQ(rv, before);
+                if (want != 0) {
+                    EXPECT_EQ(rv, before);
+                }
             }
 }
 
@@ -569,7 +571,11 @@ TEST(M01EAF, RanksRearrangeIntoSortedOrderAndBadRanksLeaveTheVectorAlone)
     std::vector<Zor_Integer> iv(n);
     for (std::size_t i = 0; i < n; ++i) iv[i] = static_cast<Zor_Integer>(rv[i] * 7);
     std::string ch(n * 3, ' ');
-    for (std::size_t i = 0; i < n; ++i) std::snprintf(&ch[3 * i], 4, "%03d", static_cast<int>(rv[i] * 7) % 1000);
+    for (std::size_t i = 0; i < n; ++i) {
+        char digits[16];
+        std::snprintf(digits, sizeof digits, "%03u", static_cast<unsigned>(std::abs(rv[i] * 7)) % 1000u);
+        ch.replace(3 * i, 3, digits, 3);
+    }
     M01EAF(rv.data(), &m1, &m2, irank.data(), &ifail);
     EXPECT_EQ(rv, want);
     M01EDF(cv.data(), &m1, &m2, irank.data(), &ifail);
