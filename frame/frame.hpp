@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <new>
 #include <span>
 #include <string_view>
@@ -12,6 +13,25 @@
 
 #include "zor_types.h"
 #include "zor_errors.h"
+
+// Internal services under their chapter names; not exported from the shared library.
+extern "C" {
+void Y90HAAN(Zor_Context* ctx) noexcept;
+void P01ABTN(const char* msgbuf, Zor_Integer* msgcode, char fields[12][80],
+             Zor_Integer* status) noexcept;
+void P01ABZU(Zor_Integer* ifail, const Zor_Integer* error, const char* routine,
+             const Zor_Integer* nrec, const char* records, std::size_t name_len,
+             std::size_t rec_len) noexcept;
+void P01ABYU(Zor_Integer* ifail, const Zor_Integer* error, const char* routine,
+             const Zor_Integer* nrec, const char* records, std::size_t name_len,
+             std::size_t rec_len) noexcept;
+void P01ABXU(bool quiet, bool hard, const Zor_Integer* error, const char* routine,
+             const Zor_Integer* nrec, const char* records, std::size_t name_len,
+             std::size_t rec_len) noexcept;
+void P01ZZWN(const char* text, std::size_t len) noexcept;
+void X04BAZN(Zor_Context* ctx, const Zor_Integer* nout, const char* rec,
+             Zor_Integer* status, std::size_t rec_len) noexcept;
+}
 
 namespace zor {
 
@@ -108,6 +128,32 @@ int c_bad_param(Zor_Fail* fail, const char* routine, const char* argument) noexc
 void c_exit(Zor_Fail* fail, int error, const char* msgbuf, const char* routine,
             std::span<const CMessage> messages) noexcept;
 
+// A pointer argument of a c routine and its name, for c_require. Function pointers
+// (callbacks) are accepted as they are.
+struct Required {
+    const void* pointer;
+    const char* name;
+    Required(const void* p, const char* n) noexcept : pointer(p), name(n) {}
+    template <class F>
+        requires std::is_function_v<F>
+    Required(F* f, const char* n) noexcept : pointer(reinterpret_cast<const void*>(f)), name(n)
+    {
+    }
+};
+
+// Checks the pointer arguments in the order given; the first null one is reported
+// through c_bad_param and the result is false. True when every one is given.
+inline bool c_require(Zor_Fail* fail, const char* routine,
+                      std::initializer_list<Required> arguments) noexcept
+{
+    for (const Required& r : arguments)
+        if (r.pointer == nullptr) {
+            c_bad_param(fail, routine, r.name);
+            return false;
+        }
+    return true;
+}
+
 // The one reporting routine of the c interface: fills the record, prints, calls the
 // handler, and ends the process with status 1 for a failure without a record.
 void c_report(const char* message, int code, const char* routine, Zor_Fail* fail) noexcept;
@@ -132,6 +178,39 @@ int guarded(F&& body) noexcept
 }
 
 // ---------------------------------------------------------------------------------
+// The common call sequence of the F and c routines: a fresh context, the message
+// buffer and the error number, one call of the kernel entry, the exit with the
+// routine's table. The kernel is called as kernel(&ctx, msgbuf, &ierr); it may change
+// ierr after its entry returns (a routine that renumbers its errors).
+
+template <class K>
+void f_call(Zor_Integer* ifail, const char* routine, std::span<const FRecord> records,
+            K&& kernel) noexcept
+{
+    Zor_Context ctx;
+    Y90HAAN(&ctx);
+    char msgbuf[msgbuf_len];
+    Zor_Integer ierr = 0;
+    kernel(&ctx, msgbuf, &ierr);
+    f_exit(ifail, ierr, msgbuf, routine, records);
+}
+
+// The c form starts with c_begin and c_require of the pointer arguments, in order.
+template <class K>
+void c_call(Zor_Fail* fail, const char* routine, std::span<const CMessage> messages,
+            std::initializer_list<Required> arguments, K&& kernel) noexcept
+{
+    c_begin(fail);
+    if (!c_require(fail, routine, arguments)) return;
+    Zor_Context ctx;
+    Y90HAAN(&ctx);
+    char msgbuf[msgbuf_len];
+    Zor_Integer ierr = 0;
+    kernel(&ctx, msgbuf, &ierr);
+    c_exit(fail, ierr, msgbuf, routine, messages);
+}
+
+// ---------------------------------------------------------------------------------
 // Output units and records.
 
 Zor_Integer error_unit() noexcept;
@@ -151,25 +230,6 @@ void trace(const Zor_Context& ctx, const char* label, const char* heading,
            std::initializer_list<TraceItem> items) noexcept;
 
 }  // namespace zor
-
-// Internal services under their chapter names; not exported from the shared library.
-extern "C" {
-void Y90HAAN(Zor_Context* ctx) noexcept;
-void P01ABTN(const char* msgbuf, Zor_Integer* msgcode, char fields[12][80],
-             Zor_Integer* status) noexcept;
-void P01ABZU(Zor_Integer* ifail, const Zor_Integer* error, const char* routine,
-             const Zor_Integer* nrec, const char* records, std::size_t name_len,
-             std::size_t rec_len) noexcept;
-void P01ABYU(Zor_Integer* ifail, const Zor_Integer* error, const char* routine,
-             const Zor_Integer* nrec, const char* records, std::size_t name_len,
-             std::size_t rec_len) noexcept;
-void P01ABXU(bool quiet, bool hard, const Zor_Integer* error, const char* routine,
-             const Zor_Integer* nrec, const char* records, std::size_t name_len,
-             std::size_t rec_len) noexcept;
-void P01ZZWN(const char* text, std::size_t len) noexcept;
-void X04BAZN(Zor_Context* ctx, const Zor_Integer* nout, const char* rec,
-             Zor_Integer* status, std::size_t rec_len) noexcept;
-}
 
 // The lower-case name with one trailing underscore under which gfortran programs call
 // an F routine, as an alias of the same code. Placed after the routine's definition.

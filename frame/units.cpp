@@ -166,12 +166,10 @@ extern "C" ZOR_API void X04ACFT(Zor_Context*, const Zor_Integer* nout, const cha
 extern "C" ZOR_API void X04ACF(const Zor_Integer* nout, const char* file, const Zor_Integer* mode,
                                Zor_Integer* ifail, std::size_t file_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    X04ACFT(&ctx, nout, file, mode, msgbuf, &ierr, file_len);
-    zor::f_exit(ifail, ierr, msgbuf, "x04acf", zor::frame::x04acf_records);
+    zor::f_call(ifail, "x04acf", zor::frame::x04acf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    X04ACFT(ctx, nout, file, mode, msgbuf, ierr, file_len);
+                });
 }
 
 extern "C" ZOR_API void X04ADFT(Zor_Context*, const Zor_Integer* nout, char msgbuf[200],
@@ -189,12 +187,10 @@ extern "C" ZOR_API void X04ADFT(Zor_Context*, const Zor_Integer* nout, char msgb
 
 extern "C" ZOR_API void X04ADF(const Zor_Integer* nout, Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    X04ADFT(&ctx, nout, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "x04adf", zor::frame::x04adf_records);
+    zor::f_call(ifail, "x04adf", zor::frame::x04adf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    X04ADFT(ctx, nout, msgbuf, ierr);
+                });
 }
 
 ZOR_F_ALIAS(x04aaf_, X04AAF);

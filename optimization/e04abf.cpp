@@ -24,14 +24,12 @@ void e04ab_f_form(E04AB_Adapter fh, Zor_UserFn funct, double* e1, double* e2, do
                   double ruser[], Zor_Integer* ifail, const char* name,
                   std::span<const zor::FRecord> records) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    E04ABFT(&ctx, fh, funct, e1, e2, a, b, maxcal, x, f, iuser, ruser, nullptr, msgbuf, &ierr);
-    const int error = zor::optimization::e04ab_ifail(ierr);
-    if (error != ierr) zor::optimization::renumber(msgbuf, error);
-    zor::f_exit(ifail, error, msgbuf, name, records);
+    zor::f_call(ifail, name, records, [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+        E04ABFT(ctx, fh, funct, e1, e2, a, b, maxcal, x, f, iuser, ruser, nullptr, msgbuf, ierr);
+        const int error = zor::optimization::e04ab_ifail(*ierr);
+        if (error != *ierr) zor::optimization::renumber(msgbuf, error);
+        *ierr = error;
+    });
 }
 
 }  // namespace

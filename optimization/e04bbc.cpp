@@ -13,24 +13,11 @@ extern "C" ZOR_API void e04bbc(E04BBC_FUNCT funct, double* e1, double* e2, doubl
                                Zor_Integer* max_fun, double* x, double* f, double* g,
                                Zor_Comm* comm, Zor_Fail* fail) noexcept
 {
-    constexpr const char* name = "e04bbc";
-    zor::c_begin(fail);
-    const struct {
-        const void* p;
-        const char* name;
-    } required[] = {{reinterpret_cast<const void*>(funct), "funct"},
-                    {e1, "e1"}, {e2, "e2"}, {a, "a"}, {b, "b"},
-                    {max_fun, "max_fun"}, {x, "x"}, {f, "f"}, {g, "g"}};
-    for (const auto& r : required)
-        if (r.p == nullptr) {
-            zor::c_bad_param(fail, name, r.name);
-            return;
-        }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    E04BBFT(&ctx, e04bbc_functh, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a, b, max_fun, x, f,
-            g, nullptr, nullptr, comm, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, name, zor::optimization::e04bbc_messages);
+    zor::c_call(fail, "e04bbc", zor::optimization::e04bbc_messages,
+                {{funct, "funct"}, {e1, "e1"}, {e2, "e2"}, {a, "a"}, {b, "b"},
+                 {max_fun, "max_fun"}, {x, "x"}, {f, "f"}, {g, "g"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    E04BBFT(ctx, e04bbc_functh, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a,
+                            b, max_fun, x, f, g, nullptr, nullptr, comm, msgbuf, ierr);
+                });
 }

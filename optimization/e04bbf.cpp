@@ -20,28 +20,24 @@ extern "C" ZOR_API void E04BBF(E04BBF_FUNCT funct, double* e1, double* e2, doubl
                                Zor_Integer* maxcal, double* x, double* f, double* g,
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
     Zor_Integer iuser[1] = {0};
     double ruser[1] = {0.0};
-    E04BBFT(&ctx, E04BBF_FUNCTH, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a, b, maxcal, x, f,
-            g, iuser, ruser, nullptr, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "e04bbf", zor::optimization::e04bbf_records);
+    zor::f_call(ifail, "e04bbf", zor::optimization::e04bbf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    E04BBFT(ctx, E04BBF_FUNCTH, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a,
+                            b, maxcal, x, f, g, iuser, ruser, nullptr, msgbuf, ierr);
+                });
 }
 
 extern "C" ZOR_API void E04BBA(E04BBA_FUNCT funct, double* e1, double* e2, double* a, double* b,
                                Zor_Integer* maxcal, double* x, double* f, double* g,
                                Zor_Integer iuser[], double ruser[], Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    E04BBFT(&ctx, E04BBA_FUNCTH, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a, b, maxcal, x, f,
-            g, iuser, ruser, nullptr, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "e04bba", zor::optimization::e04bba_records);
+    zor::f_call(ifail, "e04bba", zor::optimization::e04bba_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    E04BBFT(ctx, E04BBA_FUNCTH, reinterpret_cast<Zor_UserFn>(funct), e1, e2, a,
+                            b, maxcal, x, f, g, iuser, ruser, nullptr, msgbuf, ierr);
+                });
 }
 
 ZOR_F_ALIAS(e04bbf_, E04BBF);

@@ -12,20 +12,9 @@ extern "C" ZOR_API void c05ayc_fh(Zor_UserFn f, const double* x, double* fx, Zor
 extern "C" ZOR_API void c05ayc(double a, double b, double eps, double eta, C05AYC_F f, double* x,
                                Zor_Comm* comm, Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (x == nullptr) {
-        zor::c_bad_param(fail, "c05ayc", "x");
-        return;
-    }
-    if (f == nullptr) {
-        zor::c_bad_param(fail, "c05ayc", "f");
-        return;
-    }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    C05AYFT(&ctx, &a, &b, &eps, &eta, c05ayc_fh, reinterpret_cast<Zor_UserFn>(f), x, nullptr,
-            nullptr, comm, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "c05ayc", zor::zeros::c05ayc_messages);
+    zor::c_call(fail, "c05ayc", zor::zeros::c05ayc_messages, {{x, "x"}, {f, "f"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    C05AYFT(ctx, &a, &b, &eps, &eta, c05ayc_fh, reinterpret_cast<Zor_UserFn>(f),
+                            x, nullptr, nullptr, comm, msgbuf, ierr);
+                });
 }

@@ -13,12 +13,10 @@ extern "C" ZOR_API void C05AYF(const double* a, const double* b, const double* e
                                const double* eta, C05AYF_F f, double* x, Zor_Integer iuser[],
                                double ruser[], Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    C05AYFT(&ctx, a, b, eps, eta, C05AYF_FH, reinterpret_cast<Zor_UserFn>(f), x, iuser, ruser,
-            nullptr, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "c05ayf", zor::zeros::c05ayf_records);
+    zor::f_call(ifail, "c05ayf", zor::zeros::c05ayf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    C05AYFT(ctx, a, b, eps, eta, C05AYF_FH, reinterpret_cast<Zor_UserFn>(f), x,
+                            iuser, ruser, nullptr, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(c05ayf_, C05AYF);
