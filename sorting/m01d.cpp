@@ -205,27 +205,20 @@ extern "C" ZOR_API void M01DAF(const double rv[], const Zor_Integer* m1, const Z
                                const char* order, Zor_Integer irank[], Zor_Integer* ifail,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DAFT(&ctx, rv, m1, m2, order, irank, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01daf", m01daf_records);
+    zor::f_call(ifail, "m01daf", m01daf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DAFT(ctx, rv, m1, m2, order, irank, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01daf_, M01DAF);
 
 extern "C" ZOR_API void m01dac(const double rv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Integer irank[], Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (rv == nullptr) return void(zor::c_bad_param(fail, "m01dac", "rv"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dac", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DAFT(&ctx, rv, &m1, &m2, &order, irank, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dac", m01dac_messages);
+    zor::c_call(fail, "m01dac", m01dac_messages, {{rv, "rv"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DAFT(ctx, rv, &m1, &m2, &order, irank, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01DBF ------------------------------------------------------------------------
@@ -242,27 +235,20 @@ extern "C" ZOR_API void M01DBF(const Zor_Integer iv[], const Zor_Integer* m1, co
                                const char* order, Zor_Integer irank[], Zor_Integer* ifail,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DBFT(&ctx, iv, m1, m2, order, irank, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dbf", m01dbf_records);
+    zor::f_call(ifail, "m01dbf", m01dbf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DBFT(ctx, iv, m1, m2, order, irank, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01dbf_, M01DBF);
 
 extern "C" ZOR_API void m01dbc(const Zor_Integer iv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Integer irank[], Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iv == nullptr) return void(zor::c_bad_param(fail, "m01dbc", "iv"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dbc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DBFT(&ctx, iv, &m1, &m2, &order, irank, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dbc", m01dbc_messages);
+    zor::c_call(fail, "m01dbc", m01dbc_messages, {{iv, "iv"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DBFT(ctx, iv, &m1, &m2, &order, irank, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01DCF ------------------------------------------------------------------------
@@ -285,12 +271,10 @@ extern "C" ZOR_API void M01DCF(const char ch[], const Zor_Integer* m1, const Zor
                                Zor_Integer irank[], Zor_Integer* ifail, std::size_t ch_len,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DCFT(&ctx, ch, m1, m2, l1, l2, order, irank, msgbuf, &ierr, ch_len, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dcf", m01dcf_records);
+    zor::f_call(ifail, "m01dcf", m01dcf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DCFT(ctx, ch, m1, m2, l1, l2, order, irank, msgbuf, ierr, ch_len, order_len);
+                });
 }
 ZOR_F_ALIAS(m01dcf_, M01DCF);
 
@@ -298,15 +282,11 @@ extern "C" ZOR_API void m01dcc(const char ch[], Zor_Integer lenc, Zor_Integer m1
                                Zor_Integer l1, Zor_Integer l2, char order, Zor_Integer irank[],
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (ch == nullptr) return void(zor::c_bad_param(fail, "m01dcc", "ch"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dcc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DCFT(&ctx, ch, &m1, &m2, &l1, &l2, &order, irank, msgbuf, &ierr, static_cast<std::size_t>(lenc), 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dcc", m01dcc_messages);
+    zor::c_call(fail, "m01dcc", m01dcc_messages, {{ch, "ch"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DCFT(ctx, ch, &m1, &m2, &l1, &l2, &order, irank, msgbuf, ierr,
+                            static_cast<std::size_t>(lenc), 1);
+                });
 }
 
 // ---- M01DEF, M01DFF, M01DJF, M01DKF: one shape, four instances ------------------------
@@ -326,27 +306,20 @@ extern "C" ZOR_API void m01dcc(const char ch[], Zor_Integer lenc, Zor_Integer m1
                                   const Zor_Integer* n2, const char* order, Zor_Integer irank[],     \
                                   Zor_Integer* ifail, std::size_t order_len) noexcept                \
     {                                                                                                \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, ldm, m1, m2, n1, n2, order, irank, msgbuf, &ierr, order_len);            \
-        zor::f_exit(ifail, ierr, msgbuf, #lower_f, lower_f##_records);                               \
+        zor::f_call(ifail, #lower_f, lower_f##_records,                                              \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, ldm, m1, m2, n1, n2, order, irank, msgbuf, ierr, order_len); \
+                    });                                                                              \
     }                                                                                                \
     ZOR_F_ALIAS(lower_f##_, UPPER);                                                                  \
     extern "C" ZOR_API void lower_c(const Elem arg[], Zor_Integer ldm, Zor_Integer m1, Zor_Integer m2,  \
                                     Zor_Integer n1, Zor_Integer n2, char order, Zor_Integer irank[], \
                                     Zor_Fail* fail) noexcept                                         \
     {                                                                                                \
-        zor::c_begin(fail);                                                                          \
-        if (arg == nullptr) return void(zor::c_bad_param(fail, #lower_c, #arg));                     \
-        if (irank == nullptr) return void(zor::c_bad_param(fail, #lower_c, "irank"));               \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, &ldm, &m1, &m2, &n1, &n2, &order, irank, msgbuf, &ierr, 1);              \
-        zor::c_exit(fail, ierr, msgbuf, #lower_c, lower_c##_messages);                               \
+        zor::c_call(fail, #lower_c, lower_c##_messages, {{arg, #arg}, {irank, "irank"}},             \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, &ldm, &m1, &m2, &n1, &n2, &order, irank, msgbuf, ierr, 1);   \
+                    });                                                                              \
     }
 
 ZOR_M01_MATRIX_RANK(M01DEF, m01def, m01dec, double, rm,
@@ -386,27 +359,20 @@ extern "C" ZOR_API void M01DZF(M01DZF_COMPAR compar, const Zor_Integer* m1, cons
                                Zor_Integer irank[], Zor_Integer iuser[], double ruser[],
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DZFT(&ctx, M01DZF_FH, reinterpret_cast<Zor_UserFn>(compar), m1, m2, irank, iuser, ruser, nullptr,
-            msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dzf", m01dzf_records);
+    zor::f_call(ifail, "m01dzf", m01dzf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DZFT(ctx, M01DZF_FH, reinterpret_cast<Zor_UserFn>(compar), m1, m2, irank, iuser,
+                            ruser, nullptr, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01dzf_, M01DZF);
 
 extern "C" ZOR_API void m01dzc(m01dzc_compar compar, Zor_Integer m1, Zor_Integer m2, Zor_Integer irank[],
                                Zor_Comm* comm, Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (compar == nullptr) return void(zor::c_bad_param(fail, "m01dzc", "compar"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dzc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DZFT(&ctx, m01dzc_fh, reinterpret_cast<Zor_UserFn>(compar), &m1, &m2, irank, nullptr, nullptr, comm,
-            msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01dzc", m01dzc_messages);
+    zor::c_call(fail, "m01dzc", m01dzc_messages, {{compar, "compar"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DZFT(ctx, m01dzc_fh, reinterpret_cast<Zor_UserFn>(compar), &m1, &m2, irank,
+                            nullptr, nullptr, comm, msgbuf, ierr);
+                });
 }
