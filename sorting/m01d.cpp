@@ -6,6 +6,7 @@
 // direction. IRANK(i) receives the rank of element i, counted from M1: the smallest
 // element (the largest for a descending ranking) gets M1, the next M1 + 1, and so on.
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
 #include "sorting/m01.hpp"
@@ -41,49 +42,41 @@ void rank_sort(std::span<Zor_Integer> idx, const T* x, Less less, std::vector<Zo
     }
 }
 
-// M01DAF. Reals rank with -0 equal to +0 and every NaN above every number (below it,
-// for a descending ranking), NaNs equal among themselves. The NaNs are set apart first,
-// in their order, at the end of the order (at its start, descending), so that the
-// numbers are sorted with a plain comparison.
-int m01da(const double* rv, Zor_Integer m1, Zor_Integer m2, const char* order, std::size_t order_len,
-          Zor_Integer* irank, Message& msg)
+// True for a NaN alone (x != x); integers have none.
+template <class T>
+bool is_nan(T x)
+{
+    if constexpr (std::is_floating_point_v<T>)
+        return x != x;
+    else
+        return false;
+}
+
+// M01DAF, M01DBF. Reals rank with -0 equal to +0 and every NaN above every number
+// (below it, for a descending ranking), NaNs equal among themselves. The NaNs are set
+// apart first, in their order, at the end of the order (at its start, descending), so
+// that the numbers are sorted with a plain comparison. Integers have no NaN: the
+// order starts as the identity and all of it is sorted.
+template <class T>
+int rank_vector(const T* v, Zor_Integer m1, Zor_Integer m2, const char* order, std::size_t order_len,
+                Zor_Integer* irank, Message& msg)
 {
     bool descending = false;
     if (int e = check_order(msg, order, order_len, descending)) return e;
     if (int e = check_section(msg, m1, m2)) return e;
     const std::size_t n = section_length(m1, m2);
-    const double* x = rv + (m1 - 1);
+    const T* x = v + (m1 - 1);
     Zor_Integer* r = irank + (m1 - 1);
     std::size_t nans = 0;
-    for (std::size_t i = 0; i < n; ++i) nans += x[i] != x[i];
+    for (std::size_t i = 0; i < n; ++i) nans += is_nan(x[i]);
     std::size_t at_number = descending ? nans : 0, at_nan = descending ? 0 : n - nans;
-    for (std::size_t i = 0; i < n; ++i) r[x[i] != x[i] ? at_nan++ : at_number++] = static_cast<Zor_Integer>(i);
+    for (std::size_t i = 0; i < n; ++i) r[is_nan(x[i]) ? at_nan++ : at_number++] = static_cast<Zor_Integer>(i);
     const std::span<Zor_Integer> numbers(r + (descending ? nans : 0), n - nans);
     std::vector<Zor_Integer> buf;
     if (descending)
-        rank_sort(numbers, x, [](double a, double b) { return b < a; }, buf);
+        rank_sort(numbers, x, [](T a, T b) { return b < a; }, buf);
     else
-        rank_sort(numbers, x, [](double a, double b) { return a < b; }, buf);
-    order_to_ranks(r, n, m1, buf);
-    return 0;
-}
-
-// M01DBF.
-int m01db(const Zor_Integer* iv, Zor_Integer m1, Zor_Integer m2, const char* order,
-          std::size_t order_len, Zor_Integer* irank, Message& msg)
-{
-    bool descending = false;
-    if (int e = check_order(msg, order, order_len, descending)) return e;
-    if (int e = check_section(msg, m1, m2)) return e;
-    const std::size_t n = section_length(m1, m2);
-    const Zor_Integer* x = iv + (m1 - 1);
-    Zor_Integer* r = irank + (m1 - 1);
-    for (std::size_t i = 0; i < n; ++i) r[i] = static_cast<Zor_Integer>(i);
-    std::vector<Zor_Integer> buf;
-    if (descending)
-        rank_sort(std::span<Zor_Integer>(r, n), x, [](Zor_Integer a, Zor_Integer b) { return b < a; }, buf);
-    else
-        rank_sort(std::span<Zor_Integer>(r, n), x, [](Zor_Integer a, Zor_Integer b) { return a < b; }, buf);
+        rank_sort(numbers, x, [](T a, T b) { return a < b; }, buf);
     order_to_ranks(r, n, m1, buf);
     return 0;
 }
@@ -198,7 +191,7 @@ extern "C" ZOR_API void M01DAFT(Zor_Context*, const double rv[], const Zor_Integ
                                 char msgbuf[200], Zor_Integer* ierr, std::size_t order_len) noexcept
 {
     zor::Message msg(msgbuf);
-    *ierr = zor::guarded([&] { return m01da(rv, *m1, *m2, order, order_len, irank, msg); });
+    *ierr = zor::guarded([&] { return rank_vector(rv, *m1, *m2, order, order_len, irank, msg); });
 }
 
 extern "C" ZOR_API void M01DAF(const double rv[], const Zor_Integer* m1, const Zor_Integer* m2,
@@ -228,7 +221,7 @@ extern "C" ZOR_API void M01DBFT(Zor_Context*, const Zor_Integer iv[], const Zor_
                                 char msgbuf[200], Zor_Integer* ierr, std::size_t order_len) noexcept
 {
     zor::Message msg(msgbuf);
-    *ierr = zor::guarded([&] { return m01db(iv, *m1, *m2, order, order_len, irank, msg); });
+    *ierr = zor::guarded([&] { return rank_vector(iv, *m1, *m2, order, order_len, irank, msg); });
 }
 
 extern "C" ZOR_API void M01DBF(const Zor_Integer iv[], const Zor_Integer* m1, const Zor_Integer* m2,
