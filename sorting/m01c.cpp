@@ -80,29 +80,20 @@ extern "C" ZOR_API void M01CAFT(Zor_Context*, double rv[], const Zor_Integer* m1
 extern "C" ZOR_API void M01CAF(double rv[], const Zor_Integer* m1, const Zor_Integer* m2,
                                const char* order, Zor_Integer* ifail, std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CAFT(&ctx, rv, m1, m2, order, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01caf", m01caf_records);
+    zor::f_call(ifail, "m01caf", m01caf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CAFT(ctx, rv, m1, m2, order, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01caf_, M01CAF);
 
 extern "C" ZOR_API void m01cac(double rv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (rv == nullptr) {
-        zor::c_bad_param(fail, "m01cac", "rv");
-        return;
-    }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CAFT(&ctx, rv, &m1, &m2, &order, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01cac", m01cac_messages);
+    zor::c_call(fail, "m01cac", m01cac_messages, {{rv, "rv"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CAFT(ctx, rv, &m1, &m2, &order, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01CBF ------------------------------------------------------------------------
@@ -118,29 +109,20 @@ extern "C" ZOR_API void M01CBFT(Zor_Context*, Zor_Integer iv[], const Zor_Intege
 extern "C" ZOR_API void M01CBF(Zor_Integer iv[], const Zor_Integer* m1, const Zor_Integer* m2,
                                const char* order, Zor_Integer* ifail, std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CBFT(&ctx, iv, m1, m2, order, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01cbf", m01cbf_records);
+    zor::f_call(ifail, "m01cbf", m01cbf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CBFT(ctx, iv, m1, m2, order, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01cbf_, M01CBF);
 
 extern "C" ZOR_API void m01cbc(Zor_Integer iv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iv == nullptr) {
-        zor::c_bad_param(fail, "m01cbc", "iv");
-        return;
-    }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CBFT(&ctx, iv, &m1, &m2, &order, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01cbc", m01cbc_messages);
+    zor::c_call(fail, "m01cbc", m01cbc_messages, {{iv, "iv"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CBFT(ctx, iv, &m1, &m2, &order, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01CCF ------------------------------------------------------------------------
@@ -161,27 +143,19 @@ extern "C" ZOR_API void M01CCF(char ch[], const Zor_Integer* m1, const Zor_Integ
                                const Zor_Integer* l1, const Zor_Integer* l2, const char* order,
                                Zor_Integer* ifail, std::size_t ch_len, std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CCFT(&ctx, ch, m1, m2, l1, l2, order, msgbuf, &ierr, ch_len, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01ccf", m01ccf_records);
+    zor::f_call(ifail, "m01ccf", m01ccf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CCFT(ctx, ch, m1, m2, l1, l2, order, msgbuf, ierr, ch_len, order_len);
+                });
 }
 ZOR_F_ALIAS(m01ccf_, M01CCF);
 
 extern "C" ZOR_API void m01ccc(char ch[], Zor_Integer lenc, Zor_Integer m1, Zor_Integer m2,
                                Zor_Integer l1, Zor_Integer l2, char order, Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (ch == nullptr) {
-        zor::c_bad_param(fail, "m01ccc", "ch");
-        return;
-    }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01CCFT(&ctx, ch, &m1, &m2, &l1, &l2, &order, msgbuf, &ierr, static_cast<std::size_t>(lenc), 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01ccc", m01ccc_messages);
+    zor::c_call(fail, "m01ccc", m01ccc_messages, {{ch, "ch"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01CCFT(ctx, ch, &m1, &m2, &l1, &l2, &order, msgbuf, ierr,
+                            static_cast<std::size_t>(lenc), 1);
+                });
 }

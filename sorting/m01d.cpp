@@ -6,6 +6,7 @@
 // direction. IRANK(i) receives the rank of element i, counted from M1: the smallest
 // element (the largest for a descending ranking) gets M1, the next M1 + 1, and so on.
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
 #include "sorting/m01.hpp"
@@ -41,49 +42,41 @@ void rank_sort(std::span<Zor_Integer> idx, const T* x, Less less, std::vector<Zo
     }
 }
 
-// M01DAF. Reals rank with -0 equal to +0 and every NaN above every number (below it,
-// for a descending ranking), NaNs equal among themselves. The NaNs are set apart first,
-// in their order, at the end of the order (at its start, descending), so that the
-// numbers are sorted with a plain comparison.
-int m01da(const double* rv, Zor_Integer m1, Zor_Integer m2, const char* order, std::size_t order_len,
-          Zor_Integer* irank, Message& msg)
+// True for a NaN alone (x != x); integers have none.
+template <class T>
+bool is_nan(T x)
+{
+    if constexpr (std::is_floating_point_v<T>)
+        return x != x;
+    else
+        return false;
+}
+
+// M01DAF, M01DBF. Reals rank with -0 equal to +0 and every NaN above every number
+// (below it, for a descending ranking), NaNs equal among themselves. The NaNs are set
+// apart first, in their order, at the end of the order (at its start, descending), so
+// that the numbers are sorted with a plain comparison. Integers have no NaN: the
+// order starts as the identity and all of it is sorted.
+template <class T>
+int rank_vector(const T* v, Zor_Integer m1, Zor_Integer m2, const char* order, std::size_t order_len,
+                Zor_Integer* irank, Message& msg)
 {
     bool descending = false;
     if (int e = check_order(msg, order, order_len, descending)) return e;
     if (int e = check_section(msg, m1, m2)) return e;
     const std::size_t n = section_length(m1, m2);
-    const double* x = rv + (m1 - 1);
+    const T* x = v + (m1 - 1);
     Zor_Integer* r = irank + (m1 - 1);
     std::size_t nans = 0;
-    for (std::size_t i = 0; i < n; ++i) nans += x[i] != x[i];
+    for (std::size_t i = 0; i < n; ++i) nans += is_nan(x[i]);
     std::size_t at_number = descending ? nans : 0, at_nan = descending ? 0 : n - nans;
-    for (std::size_t i = 0; i < n; ++i) r[x[i] != x[i] ? at_nan++ : at_number++] = static_cast<Zor_Integer>(i);
+    for (std::size_t i = 0; i < n; ++i) r[is_nan(x[i]) ? at_nan++ : at_number++] = static_cast<Zor_Integer>(i);
     const std::span<Zor_Integer> numbers(r + (descending ? nans : 0), n - nans);
     std::vector<Zor_Integer> buf;
     if (descending)
-        rank_sort(numbers, x, [](double a, double b) { return b < a; }, buf);
+        rank_sort(numbers, x, [](T a, T b) { return b < a; }, buf);
     else
-        rank_sort(numbers, x, [](double a, double b) { return a < b; }, buf);
-    order_to_ranks(r, n, m1, buf);
-    return 0;
-}
-
-// M01DBF.
-int m01db(const Zor_Integer* iv, Zor_Integer m1, Zor_Integer m2, const char* order,
-          std::size_t order_len, Zor_Integer* irank, Message& msg)
-{
-    bool descending = false;
-    if (int e = check_order(msg, order, order_len, descending)) return e;
-    if (int e = check_section(msg, m1, m2)) return e;
-    const std::size_t n = section_length(m1, m2);
-    const Zor_Integer* x = iv + (m1 - 1);
-    Zor_Integer* r = irank + (m1 - 1);
-    for (std::size_t i = 0; i < n; ++i) r[i] = static_cast<Zor_Integer>(i);
-    std::vector<Zor_Integer> buf;
-    if (descending)
-        rank_sort(std::span<Zor_Integer>(r, n), x, [](Zor_Integer a, Zor_Integer b) { return b < a; }, buf);
-    else
-        rank_sort(std::span<Zor_Integer>(r, n), x, [](Zor_Integer a, Zor_Integer b) { return a < b; }, buf);
+        rank_sort(numbers, x, [](T a, T b) { return a < b; }, buf);
     order_to_ranks(r, n, m1, buf);
     return 0;
 }
@@ -198,34 +191,27 @@ extern "C" ZOR_API void M01DAFT(Zor_Context*, const double rv[], const Zor_Integ
                                 char msgbuf[200], Zor_Integer* ierr, std::size_t order_len) noexcept
 {
     zor::Message msg(msgbuf);
-    *ierr = zor::guarded([&] { return m01da(rv, *m1, *m2, order, order_len, irank, msg); });
+    *ierr = zor::guarded([&] { return rank_vector(rv, *m1, *m2, order, order_len, irank, msg); });
 }
 
 extern "C" ZOR_API void M01DAF(const double rv[], const Zor_Integer* m1, const Zor_Integer* m2,
                                const char* order, Zor_Integer irank[], Zor_Integer* ifail,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DAFT(&ctx, rv, m1, m2, order, irank, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01daf", m01daf_records);
+    zor::f_call(ifail, "m01daf", m01daf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DAFT(ctx, rv, m1, m2, order, irank, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01daf_, M01DAF);
 
 extern "C" ZOR_API void m01dac(const double rv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Integer irank[], Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (rv == nullptr) return void(zor::c_bad_param(fail, "m01dac", "rv"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dac", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DAFT(&ctx, rv, &m1, &m2, &order, irank, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dac", m01dac_messages);
+    zor::c_call(fail, "m01dac", m01dac_messages, {{rv, "rv"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DAFT(ctx, rv, &m1, &m2, &order, irank, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01DBF ------------------------------------------------------------------------
@@ -235,34 +221,27 @@ extern "C" ZOR_API void M01DBFT(Zor_Context*, const Zor_Integer iv[], const Zor_
                                 char msgbuf[200], Zor_Integer* ierr, std::size_t order_len) noexcept
 {
     zor::Message msg(msgbuf);
-    *ierr = zor::guarded([&] { return m01db(iv, *m1, *m2, order, order_len, irank, msg); });
+    *ierr = zor::guarded([&] { return rank_vector(iv, *m1, *m2, order, order_len, irank, msg); });
 }
 
 extern "C" ZOR_API void M01DBF(const Zor_Integer iv[], const Zor_Integer* m1, const Zor_Integer* m2,
                                const char* order, Zor_Integer irank[], Zor_Integer* ifail,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DBFT(&ctx, iv, m1, m2, order, irank, msgbuf, &ierr, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dbf", m01dbf_records);
+    zor::f_call(ifail, "m01dbf", m01dbf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DBFT(ctx, iv, m1, m2, order, irank, msgbuf, ierr, order_len);
+                });
 }
 ZOR_F_ALIAS(m01dbf_, M01DBF);
 
 extern "C" ZOR_API void m01dbc(const Zor_Integer iv[], Zor_Integer m1, Zor_Integer m2, char order,
                                Zor_Integer irank[], Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iv == nullptr) return void(zor::c_bad_param(fail, "m01dbc", "iv"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dbc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DBFT(&ctx, iv, &m1, &m2, &order, irank, msgbuf, &ierr, 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dbc", m01dbc_messages);
+    zor::c_call(fail, "m01dbc", m01dbc_messages, {{iv, "iv"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DBFT(ctx, iv, &m1, &m2, &order, irank, msgbuf, ierr, 1);
+                });
 }
 
 // ---- M01DCF ------------------------------------------------------------------------
@@ -285,12 +264,10 @@ extern "C" ZOR_API void M01DCF(const char ch[], const Zor_Integer* m1, const Zor
                                Zor_Integer irank[], Zor_Integer* ifail, std::size_t ch_len,
                                std::size_t order_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DCFT(&ctx, ch, m1, m2, l1, l2, order, irank, msgbuf, &ierr, ch_len, order_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dcf", m01dcf_records);
+    zor::f_call(ifail, "m01dcf", m01dcf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DCFT(ctx, ch, m1, m2, l1, l2, order, irank, msgbuf, ierr, ch_len, order_len);
+                });
 }
 ZOR_F_ALIAS(m01dcf_, M01DCF);
 
@@ -298,15 +275,11 @@ extern "C" ZOR_API void m01dcc(const char ch[], Zor_Integer lenc, Zor_Integer m1
                                Zor_Integer l1, Zor_Integer l2, char order, Zor_Integer irank[],
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (ch == nullptr) return void(zor::c_bad_param(fail, "m01dcc", "ch"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dcc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DCFT(&ctx, ch, &m1, &m2, &l1, &l2, &order, irank, msgbuf, &ierr, static_cast<std::size_t>(lenc), 1);
-    zor::c_exit(fail, ierr, msgbuf, "m01dcc", m01dcc_messages);
+    zor::c_call(fail, "m01dcc", m01dcc_messages, {{ch, "ch"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DCFT(ctx, ch, &m1, &m2, &l1, &l2, &order, irank, msgbuf, ierr,
+                            static_cast<std::size_t>(lenc), 1);
+                });
 }
 
 // ---- M01DEF, M01DFF, M01DJF, M01DKF: one shape, four instances ------------------------
@@ -326,27 +299,20 @@ extern "C" ZOR_API void m01dcc(const char ch[], Zor_Integer lenc, Zor_Integer m1
                                   const Zor_Integer* n2, const char* order, Zor_Integer irank[],     \
                                   Zor_Integer* ifail, std::size_t order_len) noexcept                \
     {                                                                                                \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, ldm, m1, m2, n1, n2, order, irank, msgbuf, &ierr, order_len);            \
-        zor::f_exit(ifail, ierr, msgbuf, #lower_f, lower_f##_records);                               \
+        zor::f_call(ifail, #lower_f, lower_f##_records,                                              \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, ldm, m1, m2, n1, n2, order, irank, msgbuf, ierr, order_len); \
+                    });                                                                              \
     }                                                                                                \
     ZOR_F_ALIAS(lower_f##_, UPPER);                                                                  \
     extern "C" ZOR_API void lower_c(const Elem arg[], Zor_Integer ldm, Zor_Integer m1, Zor_Integer m2,  \
                                     Zor_Integer n1, Zor_Integer n2, char order, Zor_Integer irank[], \
                                     Zor_Fail* fail) noexcept                                         \
     {                                                                                                \
-        zor::c_begin(fail);                                                                          \
-        if (arg == nullptr) return void(zor::c_bad_param(fail, #lower_c, #arg));                     \
-        if (irank == nullptr) return void(zor::c_bad_param(fail, #lower_c, "irank"));               \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, &ldm, &m1, &m2, &n1, &n2, &order, irank, msgbuf, &ierr, 1);              \
-        zor::c_exit(fail, ierr, msgbuf, #lower_c, lower_c##_messages);                               \
+        zor::c_call(fail, #lower_c, lower_c##_messages, {{arg, #arg}, {irank, "irank"}},             \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, &ldm, &m1, &m2, &n1, &n2, &order, irank, msgbuf, ierr, 1);   \
+                    });                                                                              \
     }
 
 ZOR_M01_MATRIX_RANK(M01DEF, m01def, m01dec, double, rm,
@@ -386,27 +352,20 @@ extern "C" ZOR_API void M01DZF(M01DZF_COMPAR compar, const Zor_Integer* m1, cons
                                Zor_Integer irank[], Zor_Integer iuser[], double ruser[],
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DZFT(&ctx, M01DZF_FH, reinterpret_cast<Zor_UserFn>(compar), m1, m2, irank, iuser, ruser, nullptr,
-            msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01dzf", m01dzf_records);
+    zor::f_call(ifail, "m01dzf", m01dzf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DZFT(ctx, M01DZF_FH, reinterpret_cast<Zor_UserFn>(compar), m1, m2, irank, iuser,
+                            ruser, nullptr, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01dzf_, M01DZF);
 
 extern "C" ZOR_API void m01dzc(m01dzc_compar compar, Zor_Integer m1, Zor_Integer m2, Zor_Integer irank[],
                                Zor_Comm* comm, Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (compar == nullptr) return void(zor::c_bad_param(fail, "m01dzc", "compar"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01dzc", "irank"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01DZFT(&ctx, m01dzc_fh, reinterpret_cast<Zor_UserFn>(compar), &m1, &m2, irank, nullptr, nullptr, comm,
-            msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01dzc", m01dzc_messages);
+    zor::c_call(fail, "m01dzc", m01dzc_messages, {{compar, "compar"}, {irank, "irank"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01DZFT(ctx, m01dzc_fh, reinterpret_cast<Zor_UserFn>(compar), &m1, &m2, irank,
+                            nullptr, nullptr, comm, msgbuf, ierr);
+                });
 }

@@ -40,26 +40,19 @@ using namespace zor::sorting;
     extern "C" ZOR_API void UPPER(Elem arg[], const Zor_Integer* m1, const Zor_Integer* m2,             \
                                   const Zor_Integer irank[], Zor_Integer* ifail) noexcept            \
     {                                                                                                \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, m1, m2, irank, msgbuf, &ierr);                                           \
-        zor::f_exit(ifail, ierr, msgbuf, #lower_f, lower_f##_records);                               \
+        zor::f_call(ifail, #lower_f, lower_f##_records,                                              \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, m1, m2, irank, msgbuf, ierr);                             \
+                    });                                                                              \
     }                                                                                                \
     ZOR_F_ALIAS(lower_f##_, UPPER);                                                                  \
     extern "C" ZOR_API void lower_c(Elem arg[], Zor_Integer m1, Zor_Integer m2,                         \
                                     const Zor_Integer irank[], Zor_Fail* fail) noexcept              \
     {                                                                                                \
-        zor::c_begin(fail);                                                                          \
-        if (arg == nullptr) return void(zor::c_bad_param(fail, #lower_c, #arg));                     \
-        if (irank == nullptr) return void(zor::c_bad_param(fail, #lower_c, "irank"));               \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0;                                                                        \
-        UPPER##T(&ctx, arg, &m1, &m2, irank, msgbuf, &ierr);                                         \
-        zor::c_exit(fail, ierr, msgbuf, #lower_c, lower_c##_messages);                               \
+        zor::c_call(fail, #lower_c, lower_c##_messages, {{arg, #arg}, {irank, "irank"}},             \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, arg, &m1, &m2, irank, msgbuf, ierr);                           \
+                    });                                                                              \
     }
 
 ZOR_M01_REARRANGE(M01EAF, m01eaf, m01eac, double, rv, sizeof(double))
@@ -83,12 +76,10 @@ extern "C" ZOR_API void M01ECFT(Zor_Context*, char ch[], const Zor_Integer* m1, 
 extern "C" ZOR_API void M01ECF(char ch[], const Zor_Integer* m1, const Zor_Integer* m2,
                                const Zor_Integer irank[], Zor_Integer* ifail, std::size_t ch_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ECFT(&ctx, ch, m1, m2, irank, msgbuf, &ierr, ch_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01ecf", m01ecf_records);
+    zor::f_call(ifail, "m01ecf", m01ecf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ECFT(ctx, ch, m1, m2, irank, msgbuf, ierr, ch_len);
+                });
 }
 ZOR_F_ALIAS(m01ecf_, M01ECF);
 

@@ -144,26 +144,22 @@ using namespace zor::sorting;
                                          const Zor_Integer* m2, const Elem* item,                       \
                                          Zor_Integer* ifail) noexcept                                \
     {                                                                                                \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0, index = 0;                                                             \
-        UPPER##T(&ctx, valid, m1, m2, item, &index, msgbuf, &ierr);                                  \
-        zor::f_exit(ifail, ierr, msgbuf, #lower_f, lower_f##_records);                               \
+        Zor_Integer index = 0;                                                                       \
+        zor::f_call(ifail, #lower_f, lower_f##_records,                                              \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, valid, m1, m2, item, &index, msgbuf, ierr);                    \
+                    });                                                                              \
         return index;                                                                                \
     }                                                                                                \
     ZOR_F_ALIAS(lower_f##_, UPPER);                                                                  \
     extern "C" ZOR_API Zor_Integer lower_c(const Elem valid[], Zor_Integer m1, Zor_Integer m2, Elem item,  \
                                            Zor_Fail* fail) noexcept                                  \
     {                                                                                                \
-        zor::c_begin(fail);                                                                          \
-        if (valid == nullptr) return zor::c_bad_param(fail, #lower_c, "valid"), 0;                   \
-        Zor_Context ctx;                                                                             \
-        Y90HAAN(&ctx);                                                                               \
-        char msgbuf[zor::msgbuf_len];                                                                \
-        Zor_Integer ierr = 0, index = 0;                                                             \
-        UPPER##T(&ctx, valid, &m1, &m2, &item, &index, msgbuf, &ierr);                               \
-        zor::c_exit(fail, ierr, msgbuf, #lower_c, lower_c##_messages);                               \
+        Zor_Integer index = 0;                                                                       \
+        zor::c_call(fail, #lower_c, lower_c##_messages, {{valid, "valid"}},                          \
+                    [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {                         \
+                        UPPER##T(ctx, valid, &m1, &m2, &item, &index, msgbuf, ierr);                 \
+                    });                                                                              \
         return index;                                                                                \
     }
 
@@ -185,12 +181,11 @@ extern "C" ZOR_API Zor_Integer M01NCF(const char valid[], const Zor_Integer* m1,
                                       const char* item, Zor_Integer* ifail, std::size_t valid_len,
                                       std::size_t item_len) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0, index = 0;
-    M01NCFT(&ctx, valid, m1, m2, item, &index, msgbuf, &ierr, valid_len, item_len);
-    zor::f_exit(ifail, ierr, msgbuf, "m01ncf", m01ncf_records);
+    Zor_Integer index = 0;
+    zor::f_call(ifail, "m01ncf", m01ncf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01NCFT(ctx, valid, m1, m2, item, &index, msgbuf, ierr, valid_len, item_len);
+                });
     return index;
 }
 ZOR_F_ALIAS(m01ncf_, M01NCF);
@@ -227,12 +222,10 @@ extern "C" ZOR_API void M01NDF(const double a[], const Zor_Integer* n, const Zor
                                const Zor_Integer* m2, const double x[], const Zor_Integer* m,
                                const Zor_Integer* mode, Zor_Integer idx[], Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01NDFT(&ctx, a, n, m1, m2, x, m, mode, idx, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01ndf", m01ndf_records);
+    zor::f_call(ifail, "m01ndf", m01ndf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01NDFT(ctx, a, n, m1, m2, x, m, mode, idx, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01ndf_, M01NDF);
 
@@ -240,14 +233,8 @@ extern "C" ZOR_API void m01ndc(const double a[], Zor_Integer n, Zor_Integer m1, 
                                const double x[], Zor_Integer m, Zor_Integer mode, Zor_Integer idx[],
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (a == nullptr) return void(zor::c_bad_param(fail, "m01ndc", "a"));
-    if (x == nullptr) return void(zor::c_bad_param(fail, "m01ndc", "x"));
-    if (idx == nullptr) return void(zor::c_bad_param(fail, "m01ndc", "idx"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01NDFT(&ctx, a, &n, &m1, &m2, x, &m, &mode, idx, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01ndc", m01ndc_messages);
+    zor::c_call(fail, "m01ndc", m01ndc_messages, {{a, "a"}, {x, "x"}, {idx, "idx"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01NDFT(ctx, a, &n, &m1, &m2, x, &m, &mode, idx, msgbuf, ierr);
+                });
 }

@@ -92,25 +92,19 @@ extern "C" ZOR_API void M01ZAFT(Zor_Context*, Zor_Integer iperm[], const Zor_Int
 extern "C" ZOR_API void M01ZAF(Zor_Integer iperm[], const Zor_Integer* m1, const Zor_Integer* m2,
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZAFT(&ctx, iperm, m1, m2, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01zaf", m01zaf_records);
+    zor::f_call(ifail, "m01zaf", m01zaf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZAFT(ctx, iperm, m1, m2, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01zaf_, M01ZAF);
 
 extern "C" ZOR_API void m01zac(Zor_Integer iperm[], Zor_Integer m1, Zor_Integer m2, Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iperm == nullptr) return void(zor::c_bad_param(fail, "m01zac", "iperm"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZAFT(&ctx, iperm, &m1, &m2, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01zac", m01zac_messages);
+    zor::c_call(fail, "m01zac", m01zac_messages, {{iperm, "iperm"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZAFT(ctx, iperm, &m1, &m2, msgbuf, ierr);
+                });
 }
 
 // ---- M01ZBF ------------------------------------------------------------------------
@@ -125,26 +119,20 @@ extern "C" ZOR_API void M01ZBFT(Zor_Context*, const Zor_Integer iperm[], const Z
 extern "C" ZOR_API void M01ZBF(const Zor_Integer iperm[], const Zor_Integer* m1, const Zor_Integer* m2,
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZBFT(&ctx, iperm, m1, m2, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01zbf", m01zbf_records);
+    zor::f_call(ifail, "m01zbf", m01zbf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZBFT(ctx, iperm, m1, m2, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01zbf_, M01ZBF);
 
 extern "C" ZOR_API void m01zbc(const Zor_Integer iperm[], Zor_Integer m1, Zor_Integer m2,
                                Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iperm == nullptr) return void(zor::c_bad_param(fail, "m01zbc", "iperm"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZBFT(&ctx, iperm, &m1, &m2, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01zbc", m01zbc_messages);
+    zor::c_call(fail, "m01zbc", m01zbc_messages, {{iperm, "iperm"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZBFT(ctx, iperm, &m1, &m2, msgbuf, ierr);
+                });
 }
 
 // ---- M01ZCF ------------------------------------------------------------------------
@@ -160,25 +148,18 @@ extern "C" ZOR_API void M01ZCFT(Zor_Context*, const Zor_Integer iperm[], const Z
 extern "C" ZOR_API void M01ZCF(const Zor_Integer iperm[], const Zor_Integer* m1, const Zor_Integer* m2,
                                Zor_Integer icycl[], Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZCFT(&ctx, iperm, m1, m2, icycl, msgbuf, &ierr);
-    zor::f_exit(ifail, ierr, msgbuf, "m01zcf", m01zcf_records);
+    zor::f_call(ifail, "m01zcf", m01zcf_records,
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZCFT(ctx, iperm, m1, m2, icycl, msgbuf, ierr);
+                });
 }
 ZOR_F_ALIAS(m01zcf_, M01ZCF);
 
 extern "C" ZOR_API void m01zcc(const Zor_Integer iperm[], Zor_Integer m1, Zor_Integer m2,
                                Zor_Integer icycl[], Zor_Fail* fail) noexcept
 {
-    zor::c_begin(fail);
-    if (iperm == nullptr) return void(zor::c_bad_param(fail, "m01zcc", "iperm"));
-    if (icycl == nullptr) return void(zor::c_bad_param(fail, "m01zcc", "icycl"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ZCFT(&ctx, iperm, &m1, &m2, icycl, msgbuf, &ierr);
-    zor::c_exit(fail, ierr, msgbuf, "m01zcc", m01zcc_messages);
+    zor::c_call(fail, "m01zcc", m01zcc_messages, {{iperm, "iperm"}, {icycl, "icycl"}},
+                [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+                    M01ZCFT(ctx, iperm, &m1, &m2, icycl, msgbuf, ierr);
+                });
 }

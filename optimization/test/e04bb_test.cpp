@@ -9,13 +9,14 @@
 #include <string>
 #include <vector>
 
-#include "e04_test_util.hpp"
+#include "e04_problems.hpp"
 #include "frame/frame.hpp"
+#include "tests/error_unit_capture.hpp"
 #include "zor.h"
 
-using zor::optimization::testing_util::ErrorUnitCapture;
 using zor::optimization::testing_util::problems;
-using zor::optimization::testing_util::soft_tail;
+using zor::test::ErrorUnitCapture;
+using zor::test::soft_tail;
 
 namespace {
 

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "c05ay_messages.hpp"
-#include "zeros_test_util.hpp"
+#include "tests/error_unit_capture.hpp"
 #include "zor.h"
 
-using zor::zeros::testing_util::ErrorUnitCapture;
-using zor::zeros::testing_util::soft_tail;
+using zor::test::ErrorUnitCapture;
+using zor::test::soft_tail;
 
 namespace {
 

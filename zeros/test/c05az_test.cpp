@@ -10,11 +10,11 @@
 #include "aps_problems.hpp"
 #include "c05az_step.hpp"
 #include "frame/frame.hpp"
-#include "zeros_test_util.hpp"
+#include "tests/error_unit_capture.hpp"
 #include "zor.h"
 
-using zor::zeros::testing_util::ErrorUnitCapture;
-using zor::zeros::testing_util::soft_tail;
+using zor::test::ErrorUnitCapture;
+using zor::test::soft_tail;
 
 namespace {
 

@@ -1,30 +1,28 @@
-// optimization/test/e04_test_util.hpp — helpers of the minimizer tests: capturing what the
-// F error exit writes on the error unit; the problems with known minima are in
-// e04_problems.hpp.
+// tests/error_unit_capture.hpp — for the tests of F routines: capturing what the F error
+// exit writes on the error unit, and the closing lines of a soft, printed failure.
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cmath>
 #include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <string>
 
-#include "e04_problems.hpp"
+#include "tests/portable.hpp"
 #include "zor.h"
 
-namespace zor::optimization::testing_util {
+namespace zor::test {
 
-// Connects a Fortran unit to a file (X04ACF), makes it the error unit (X04AAF), and on
-// text() restores the error unit, disconnects the file (X04ADF) and returns what it got.
+// Connects a Fortran unit to a scratch file (X04ACF), makes it the error unit (X04AAF),
+// and on text() restores the error unit, disconnects the file (X04ADF) and returns what
+// it got.
 class ErrorUnitCapture {
 public:
     ErrorUnitCapture()
     {
         static int serial = 0;
-        path_ = ::testing::TempDir() + "e04_err_" + std::to_string(getpid()) + "_" +
+        path_ = ::testing::TempDir() + "zor_err_" + std::to_string(process_id()) + "_" +
                 std::to_string(serial++) + ".txt";
         Zor_Integer mode = 1, ifail = -1, get = 0, set = 1;
         X04ACF(&unit_, path_.c_str(), &mode, &ifail, path_.size());
@@ -33,6 +31,8 @@ public:
         X04AAF(&set, &unit_);
     }
     ~ErrorUnitCapture() { restore(); }
+    ErrorUnitCapture(const ErrorUnitCapture&) = delete;
+    ErrorUnitCapture& operator=(const ErrorUnitCapture&) = delete;
     std::string text()
     {
         restore();
@@ -52,7 +52,7 @@ private:
         X04ADF(&unit_, &ifail);
     }
     std::string path_;
-    Zor_Integer unit_ = 62, saved_ = 6;
+    Zor_Integer unit_ = 61, saved_ = 6;
     bool done_ = false;
 };
 
@@ -65,4 +65,4 @@ inline std::string soft_tail(const char* name, int e)
     return std::string(line) + " ** ZOR soft failure - control returned\n";
 }
 
-}  // namespace zor::optimization::testing_util
+}  // namespace zor::test
