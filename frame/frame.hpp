@@ -183,16 +183,25 @@ int guarded(F&& body) noexcept
 // routine's table. The kernel is called as kernel(&ctx, msgbuf, &ierr); it may change
 // ierr after its entry returns (a routine that renumbers its errors).
 
-template <class K>
-void f_call(Zor_Integer* ifail, const char* routine, std::span<const FRecord> records,
-            K&& kernel) noexcept
+// One call of the kernel in a fresh context; exit(ierr, msgbuf) ends the call.
+template <class K, class Exit>
+void run_kernel(K&& kernel, Exit&& exit) noexcept
 {
     Zor_Context ctx;
     Y90HAAN(&ctx);
     char msgbuf[msgbuf_len];
     Zor_Integer ierr = 0;
     kernel(&ctx, msgbuf, &ierr);
-    f_exit(ifail, ierr, msgbuf, routine, records);
+    exit(ierr, msgbuf);
+}
+
+template <class K>
+void f_call(Zor_Integer* ifail, const char* routine, std::span<const FRecord> records,
+            K&& kernel) noexcept
+{
+    run_kernel(kernel, [&](Zor_Integer ierr, const char* msgbuf) {
+        f_exit(ifail, ierr, msgbuf, routine, records);
+    });
 }
 
 // The c form starts with c_begin and c_require of the pointer arguments, in order.
@@ -202,12 +211,9 @@ void c_call(Zor_Fail* fail, const char* routine, std::span<const CMessage> messa
 {
     c_begin(fail);
     if (!c_require(fail, routine, arguments)) return;
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[msgbuf_len];
-    Zor_Integer ierr = 0;
-    kernel(&ctx, msgbuf, &ierr);
-    c_exit(fail, ierr, msgbuf, routine, messages);
+    run_kernel(kernel, [&](Zor_Integer ierr, const char* msgbuf) {
+        c_exit(fail, ierr, msgbuf, routine, messages);
+    });
 }
 
 // ---------------------------------------------------------------------------------
