@@ -86,14 +86,15 @@ ZOR_F_ALIAS(m01ecf_, M01ECF);
 extern "C" ZOR_API void m01ecc(char ch[], Zor_Integer lenc, Zor_Integer m1, Zor_Integer m2,
                                const Zor_Integer irank[], Zor_Fail* fail) noexcept
 {
+    // As c_call, with the length checked after the pointers.
     zor::c_begin(fail);
-    if (ch == nullptr) return void(zor::c_bad_param(fail, "m01ecc", "ch"));
-    if (irank == nullptr) return void(zor::c_bad_param(fail, "m01ecc", "irank"));
+    if (!zor::c_require(fail, "m01ecc", {{ch, "ch"}, {irank, "irank"}})) return;
     if (lenc < 0) return void(zor::c_bad_param(fail, "m01ecc", "lenc"));
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    M01ECFT(&ctx, ch, &m1, &m2, irank, msgbuf, &ierr, static_cast<std::size_t>(lenc));
-    zor::c_exit(fail, ierr, msgbuf, "m01ecc", m01ecc_messages);
+    zor::run_kernel(
+        [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+            M01ECFT(ctx, ch, &m1, &m2, irank, msgbuf, ierr, static_cast<std::size_t>(lenc));
+        },
+        [&](Zor_Integer ierr, const char* msgbuf) {
+            zor::c_exit(fail, ierr, msgbuf, "m01ecc", m01ecc_messages);
+        });
 }

@@ -193,17 +193,19 @@ ZOR_F_ALIAS(m01ncf_, M01NCF);
 extern "C" ZOR_API Zor_Integer m01ncc(const char valid[], Zor_Integer lenc, Zor_Integer m1, Zor_Integer m2,
                                       const char* item, Zor_Fail* fail) noexcept
 {
+    // As c_call, with the length checked after the pointers.
     zor::c_begin(fail);
-    if (valid == nullptr) return zor::c_bad_param(fail, "m01ncc", "valid"), 0;
-    if (item == nullptr) return zor::c_bad_param(fail, "m01ncc", "item"), 0;
+    if (!zor::c_require(fail, "m01ncc", {{valid, "valid"}, {item, "item"}})) return 0;
     if (lenc < 0) return zor::c_bad_param(fail, "m01ncc", "lenc"), 0;
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0, index = 0;
-    M01NCFT(&ctx, valid, &m1, &m2, item, &index, msgbuf, &ierr, static_cast<std::size_t>(lenc),
-            std::strlen(item));
-    zor::c_exit(fail, ierr, msgbuf, "m01ncc", m01ncc_messages);
+    Zor_Integer index = 0;
+    zor::run_kernel(
+        [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+            M01NCFT(ctx, valid, &m1, &m2, item, &index, msgbuf, ierr,
+                    static_cast<std::size_t>(lenc), std::strlen(item));
+        },
+        [&](Zor_Integer ierr, const char* msgbuf) {
+            zor::c_exit(fail, ierr, msgbuf, "m01ncc", m01ncc_messages);
+        });
     return index;
 }
 
