@@ -183,7 +183,10 @@ int guarded(F&& body) noexcept
 // routine's table. The kernel is called as kernel(&ctx, msgbuf, &ierr); it may change
 // ierr after its entry returns (a routine that renumbers its errors).
 
-// One call of the kernel in a fresh context; exit(ierr, msgbuf) ends the call.
+// One call of the kernel in a fresh context; exit(ierr, msgbuf) ends the call. Used
+// directly by the routines whose checks or exit differ from f_call's and c_call's (a
+// length checked after the pointers, a reverse-communication return that asks for a
+// function value and so leaves IFAIL alone).
 template <class K, class Exit>
 void run_kernel(K&& kernel, Exit&& exit) noexcept
 {

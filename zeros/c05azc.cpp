@@ -18,12 +18,13 @@ extern "C" ZOR_API void c05azc(double* x, double* y, double fx, double tolx, Zor
         zor::c_bad_param(fail, "c05azc", null_arg);
         return;
     }
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    C05AZFT(&ctx, x, y, &fx, &tolx, &ir, c, ind, msgbuf, &ierr);
-    if (ierr == 0 && *ind != 0) return;
-    zor::c_begin(fail);
-    zor::c_exit(fail, ierr, msgbuf, "c05azc", zor::zeros::c05azc_messages);
+    zor::run_kernel(
+        [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+            C05AZFT(ctx, x, y, &fx, &tolx, &ir, c, ind, msgbuf, ierr);
+        },
+        [&](Zor_Integer ierr, const char* msgbuf) {
+            if (ierr == 0 && *ind != 0) return;
+            zor::c_begin(fail);
+            zor::c_exit(fail, ierr, msgbuf, "c05azc", zor::zeros::c05azc_messages);
+        });
 }

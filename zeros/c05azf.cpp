@@ -9,12 +9,13 @@ extern "C" ZOR_API void C05AZF(double* x, double* y, const double* fx, const dou
                                const Zor_Integer* ir, double c[], Zor_Integer* ind,
                                Zor_Integer* ifail) noexcept
 {
-    Zor_Context ctx;
-    Y90HAAN(&ctx);
-    char msgbuf[zor::msgbuf_len];
-    Zor_Integer ierr = 0;
-    C05AZFT(&ctx, x, y, fx, tolx, ir, c, ind, msgbuf, &ierr);
-    if (ierr == 0 && *ind != 0) return;
-    zor::f_exit(ifail, ierr, msgbuf, "c05azf", zor::zeros::c05azf_records);
+    zor::run_kernel(
+        [&](Zor_Context* ctx, char* msgbuf, Zor_Integer* ierr) {
+            C05AZFT(ctx, x, y, fx, tolx, ir, c, ind, msgbuf, ierr);
+        },
+        [&](Zor_Integer ierr, const char* msgbuf) {
+            if (ierr == 0 && *ind != 0) return;
+            zor::f_exit(ifail, ierr, msgbuf, "c05azf", zor::zeros::c05azf_records);
+        });
 }
 ZOR_F_ALIAS(c05azf_, C05AZF);
